@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# The libraries the tools use, under one name for both platforms: third_party::sndfile,
+# third_party::cli11, third_party::cimg, third_party::stb. Natively they come from Debian's
+# packages. The cross build takes what scripts/build-windows-dependencies put into
+# build/deps/windows and never looks at the machine's own headers. The targets are created only
+# where the library is found, so that the layers below the tools build without.
+
+if(CMAKE_CROSSCOMPILING)
+    set(thirdPartySearch PATHS "${BROLT_DEPENDENCIES}" NO_DEFAULT_PATH)
+else()
+    set(thirdPartySearch "")
+endif()
+
+# Imported targets' folders count as system includes: their warnings are not ours.
+function(brolt_add_header_library name header)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "DEFINITIONS")
+    find_path(BROLT_${name}_INCLUDE ${header} ${thirdPartySearch} PATH_SUFFIXES include)
+    mark_as_advanced(BROLT_${name}_INCLUDE)
+    if(BROLT_${name}_INCLUDE)
+        add_library(third_party::${name} INTERFACE IMPORTED GLOBAL)
+        target_include_directories(third_party::${name} INTERFACE "${BROLT_${name}_INCLUDE}")
+        target_compile_definitions(third_party::${name} INTERFACE ${arg_DEFINITIONS})
+    endif()
+endfunction()
+
+brolt_add_header_library(cli11 CLI/CLI.hpp)
+# Pictures are drawn in memory and written through stb: no window system, no libpng.
+brolt_add_header_library(cimg CImg.h DEFINITIONS cimg_display=0)
+brolt_add_header_library(stb stb/stb_image_write.h)
+
+find_path(BROLT_sndfile_INCLUDE sndfile.h ${thirdPartySearch} PATH_SUFFIXES include)
+find_library(BROLT_sndfile_LIBRARY sndfile ${thirdPartySearch} PATH_SUFFIXES lib)
+mark_as_advanced(BROLT_sndfile_INCLUDE BROLT_sndfile_LIBRARY)
+if(BROLT_sndfile_INCLUDE AND BROLT_sndfile_LIBRARY)
+    add_library(third_party::sndfile UNKNOWN IMPORTED GLOBAL)
+    set_target_properties(third_party::sndfile PROPERTIES
+        IMPORTED_LOCATION "${BROLT_sndfile_LIBRARY}"
+        INTERFACE_INCLUDE_DIRECTORIES "${BROLT_sndfile_INCLUDE}")
+endif()
