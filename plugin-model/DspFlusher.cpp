@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plugin-model/DspFlusher.h"
+
+#include "plugin-model/FlusherHost.h"
+#include "plugin-model/PacketTrace.h"
+#include "plugin-model/QMParameterValues.h"
+
+void DspFlusher::flush(QM::QMParameterValues& values) {
+    INoxPlugInProcessingHost* host = flusherHost(plugIn);
+    if (host == nullptr)
+        return;
+    const std::uint64_t id = plugIn->remoteInstanceID();
+    PacketList packets;
+    values.generatePackets(packets);
+    for (const auto& packet : packets) {
+        tracePacket(*packet);
+        if (packet->kind == Packet::coefficientKind)
+            host->sendCoefficients(0, *plugIn, id, packet->wordCount(), packet->data);
+        else
+            host->sendMessage(0, *plugIn, id, packet->wordCount(), packet->data);
+    }
+    values.releasePackets(packets);
+}
+
+std::uint32_t DspFlusher::hostStatus() const {
+    return flusherHostStatus(plugIn);
+}
