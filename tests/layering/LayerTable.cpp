@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Which folders make up a layer and which other layers it sees.
+
+#include "tests/layering/LayerTable.h"
+
+#include <cstddef>
+
+const std::vector<Layer>& layerTable() {
+    // A service that is not the log stands above the model: give it a row of its own when it comes.
+    static const std::vector<Layer> layers = {
+        {.name = "signal",
+         .paths = {"brolt/signal/"},
+         .sees = {},
+         // The floating-point control word.
+         .platformHeaders = {"xmmintrin.h"}},
+        {.name = "model",
+         .paths = {"plugin-model/", "services/Log", "services/tests/"},
+         .sees = {},
+         .platformHeaders = {}},
+        {.name = "product model",
+         .paths = {"brolt/model/"},
+         .sees = {"signal", "model"},
+         .platformHeaders = {}},
+        {.name = "hosting",
+         .paths = {"QMShell/hosting/"},
+         .sees = {"model"},
+         .platformHeaders = {}},
+        {.name = "tool",
+         .paths = {"tools/"},
+         .sees = {"signal", "model", "product model", "hosting"},
+         .platformHeaders = {},
+         .thirdParty = true},
+        {.name = "whole",
+         .paths = {"tests/", "bench/"},
+         .sees = {"signal", "model", "product model", "hosting", "tool"},
+         .platformHeaders = {},
+         .thirdParty = true},
+    };
+    return layers;
+}
+
+const Layer* layerOf(const std::string& path) {
+    const Layer* found = nullptr;
+    std::size_t longest = 0;
+    for (const Layer& layer : layerTable()) {
+        for (const std::string& beginning : layer.paths) {
+            if (path.starts_with(beginning) && beginning.size() > longest) {
+                found = &layer;
+                longest = beginning.size();
+            }
+        }
+    }
+    return found;
+}
