@@ -67,7 +67,8 @@ public:
 
     void setBlockSize(std::int32_t) override {}
 
-    NoxResult setIOConfiguration(std::int32_t inputs, std::int32_t outputs) override;
+    NoxResult setIOConfiguration(std::int32_t inputCountWanted,
+                                 std::int32_t outputCountWanted) override;
     [[nodiscard]] std::int32_t inputCount() const override;
     [[nodiscard]] std::int32_t outputCount() const override;
     void connectInput(std::int32_t input, std::int32_t slot) override;

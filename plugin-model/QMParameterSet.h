@@ -16,9 +16,9 @@ class QMParameterSet : public IQMParameterSet {
 public:
     /// The record table is copied (defaults may be changed per set); group and meter tables are
     /// copied too, the texts they point to are not. The type index is 1 for mono, 2 for stereo.
-    QMParameterSet(std::span<const NoxPlugInParameter> parameters,
-                   std::span<const NoxParameterGroup> groups,
-                   std::span<const NoxMeterDescriptor> meters, std::int32_t typeIndex);
+    QMParameterSet(std::span<const NoxPlugInParameter> parameterTable,
+                   std::span<const NoxParameterGroup> groupTable,
+                   std::span<const NoxMeterDescriptor> meterTable, std::int32_t typeIndex);
 
     void setFirstCode(FourCharCode code) override;
     void setSecondCode(FourCharCode code) override;

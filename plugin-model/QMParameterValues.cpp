@@ -45,10 +45,10 @@ void QMParameterValues::setParameterValue(std::int32_t index, double value,
 }
 
 void QMParameterValues::setParameterValues(std::int32_t count, const std::int32_t* indices,
-                                           const double* newValues, QMParameterChanges* changes) {
+                                           const double* plainValues, QMParameterChanges* changes) {
     AccumulateBracket bracket(*this);
     for (std::int32_t i = 0; i < count; ++i)
-        setParameterValue(indices[i], newValues[i], changes);
+        setParameterValue(indices[i], plainValues[i], changes);
     bracket.close();
 }
 
@@ -72,9 +72,9 @@ void QMParameterValues::storeAndFlush(std::int32_t index, double value) {
 }
 
 void QMParameterValues::storeValuesAndFlush(std::int32_t count, const std::int32_t* indices,
-                                            const double* newValues) {
+                                            const double* plainValues) {
     for (std::int32_t i = 0; i < count; ++i)
-        storeValue(indices[i], newValues[i]);
+        storeValue(indices[i], plainValues[i]);
     flush();
 }
 
@@ -100,8 +100,9 @@ void QMParameterValues::flush() {
         flusher->flush(*this);
 }
 
-void QMParameterValues::setFlusher(std::unique_ptr<QMParameterValuesCoefficientFlusher> newOne) {
-    flusher = std::move(newOne);
+void QMParameterValues::setFlusher(
+    std::unique_ptr<QMParameterValuesCoefficientFlusher> newFlusher) {
+    flusher = std::move(newFlusher);
 }
 
 void QMParameterValues::generatePackets(PacketList&) {}

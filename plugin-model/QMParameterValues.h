@@ -24,19 +24,19 @@ public:
     [[nodiscard]] double getValue(std::int32_t index) const override;
     [[nodiscard]] double getValueByID(FourCharCode id) const override;
     void setParameterValue(std::int32_t index, double value, QMParameterChanges* changes) override;
-    void setParameterValues(std::int32_t count, const std::int32_t* indices, const double* values,
-                            QMParameterChanges* changes) override;
+    void setParameterValues(std::int32_t count, const std::int32_t* indices,
+                            const double* plainValues, QMParameterChanges* changes) override;
     bool storeValue(std::int32_t index, double value) override;
     void storeAndFlush(std::int32_t index, double value) override;
     void storeValuesAndFlush(std::int32_t count, const std::int32_t* indices,
-                             const double* values) override;
+                             const double* plainValues) override;
     void restoreAllAndFlush() override;
 
     void beginAccumulate() override;
     void endAccumulate() override;
 
     void flush() override;
-    void setFlusher(std::unique_ptr<QMParameterValuesCoefficientFlusher> flusher) override;
+    void setFlusher(std::unique_ptr<QMParameterValuesCoefficientFlusher> newFlusher) override;
     /// Produces nothing; a product overrides it.
     void generatePackets(PacketList& packets) override;
     void generateSharcPackets(PacketList& packets) override;

@@ -8,7 +8,7 @@
 namespace parameterTest {
 namespace {
 
-bool select(const char* name) {
+bool selectLocale(const char* name) {
     if (std::setlocale(LC_NUMERIC, name) == nullptr)
         return false;
     // Some C libraries accept any name and change nothing.
@@ -20,7 +20,7 @@ bool select(const char* name) {
 CommaLocale::CommaLocale()
     : localeBefore(std::setlocale(LC_NUMERIC, nullptr)) {
     for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "German", "de-DE"}) {
-        inForce = select(name);
+        inForce = selectLocale(name);
         if (inForce)
             return;
     }
@@ -48,7 +48,7 @@ bool CommaLocale::compileAndSelect() {
     if (std::system(command.c_str()) != 0)
         return false;
     setenv("LOCPATH", compiledFolder.c_str(), 1);
-    const bool selected = select(name.c_str());
+    const bool selected = selectLocale(name.c_str());
     unsetenv("LOCPATH");
     return selected;
 #endif

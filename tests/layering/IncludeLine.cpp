@@ -30,7 +30,7 @@ std::optional<IncludeLine> parseIncludeLine(const std::string& line) {
     if (!skipWord(text, "#") || !skipWord(text, "include")) {
         return std::nullopt;
     }
-    // The other branch is #include_next, which reaches headers all the same.
+    // #include_next reaches headers all the same.
     skipWord(text, "_next");
     skipBlanks(text);
     if (text.empty() || (text.front() != '"' && text.front() != '<')) {

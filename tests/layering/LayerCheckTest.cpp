@@ -10,6 +10,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 

@@ -98,12 +98,17 @@ int32_t randomFrameCount(TestRandom& random) {
     return static_cast<int32_t>(random.below(random.oneIn(4) ? 1025 : 129));
 }
 
+/// Mostly what parameters can give; now and then anything at all, and equal frequencies, for which
+/// a sweep by an infinite envelope is not a number.
 Coefficients randomRecord(TestRandom& random, int32_t version) {
-    Coefficients record = recordOf(randomParameters(random), version);
+    BroltParameters parameters = randomParameters(random);
+    if (random.oneIn(8))
+        parameters.osc1SustainFrequency = parameters.osc1AttackFrequency;
+    Coefficients record = recordOf(parameters, version);
     if (random.oneIn(32)) {
         std::array<float, 18> values{};
         for (float& value : values)
-            value = random.oneIn(4) ? random.pattern() : random.sample() * 2.0F;
+            value = random.oneIn(8) ? awkwardSample(random) : random.sample() * 2.0F;
         record = std::bit_cast<Coefficients>(values);
     }
     return record;
@@ -164,6 +169,8 @@ private:
         if (random.oneIn(40)) {
             Brolt<N, float>::initialiseState(state);
             reference.initialise();
+            if (random.oneIn(4))
+                disturbFloats();
         }
         if (random.oneIn(30)) {
             Brolt<N, float>::resetState(state);
@@ -172,9 +179,24 @@ private:
         if (random.oneIn(30))
             resetMeters();
         if (random.oneIn(8)) {
-            ++state.snapshotRequest;
-            reference.requestSnapshot();
+            state.snapshotRequest = static_cast<int32_t>(random.next());
+            reference.requestSnapshot(state.snapshotRequest);
         }
+    }
+
+    // The image is a host's memory: what it holds counts, the fields that are otherwise constants
+    // included.
+    void disturbFloats() {
+        auto words = std::bit_cast<std::array<uint32_t, sizeof(BroltState<N>) / 4>>(state);
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            const int offset = static_cast<int>(i) * 4;
+            if (!reference.holdsFloat(offset) || !random.oneIn(4))
+                continue;
+            const float value = std::bit_cast<float>(words[i]) + random.sample() * 0.25F;
+            words[i] = std::bit_cast<uint32_t>(value);
+            reference.setReal(offset, value);
+        }
+        state = std::bit_cast<BroltState<N>>(words);
     }
 
     void resetMeters() {

@@ -104,6 +104,18 @@ TEST(Brolt, theLevelDetectorIgnoresAnOnsetAfterSilenceFor800Samples) {
     EXPECT_NE(output[800], 0.0F);
 }
 
+TEST(Brolt, theHysteresisIsLimitedAtTheEndOfAHostsBlockAndNotWithinIt) {
+    // 2000 falling samples and the onset in one block: 2001 rising samples pass before it counts.
+    const Coefficients record = recordOf(defaultParameters());
+    std::vector<float> input(2000, 0.0F);
+    input.resize(4100, 1.0F);
+    TestProcessor<1> processor;
+    const std::vector<float> output = processor.run({input}, record)[0];
+    for (std::size_t i = 0; i < 4000; ++i)
+        ASSERT_EQ(output[i], 0.0F) << i;
+    EXPECT_NE(output[4001], 0.0F);
+}
+
 TEST(Brolt, aStepSweepsTheFrequencyFromSustainToAttackLinearlyInT) {
     // The pitch detector covers a quarter of the way per sample: e = 1 - 0.75^n after n samples.
     Coefficients record = simpleRecord();

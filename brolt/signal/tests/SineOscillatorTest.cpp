@@ -203,6 +203,16 @@ TEST(SineOscillator, noCoefficientWhatsoeverTakesTheSquareRootOfANegativeNumber)
     }
 }
 
+TEST(SineOscillator, aSweepThatIsNotANumberCountsAsTheLowerLimit) {
+    // Equal frequencies: infinity * 0.
+    SineOscillator oscillator;
+    float lastS = 0.0F;
+    hold(oscillator, std::numeric_limits<float>::infinity(), 1, 0.9F, 0.9F, &lastS);
+    EXPECT_EQ(lastS, -1.0F);
+    hold(oscillator, std::numeric_limits<float>::quiet_NaN(), 1, 0.5F, 0.9F, &lastS);
+    EXPECT_EQ(lastS, -1.0F);
+}
+
 TEST(SineOscillator, infinitiesAndNanInTheEnvelopeLeaveItOnTheUnitCircle) {
     using Limits = std::numeric_limits<float>;
     for (const float bad : {Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN(),

@@ -250,8 +250,8 @@ void ReferenceBrolt::resetMeters() {
     }
 }
 
-void ReferenceBrolt::requestSnapshot() {
-    setInteger(requestAt, integer(requestAt) + 1);
+void ReferenceBrolt::requestSnapshot(int32_t request) {
+    setInteger(requestAt, request);
 }
 
 std::vector<float> ReferenceBrolt::snapshot() const {

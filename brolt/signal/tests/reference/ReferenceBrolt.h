@@ -28,8 +28,9 @@ public:
     void reset();
     void resetMeters();
 
-    /// As from outside: adds 1 to the request counter.
-    void requestSnapshot();
+    /// As from outside.
+    void requestSnapshot(int32_t request);
+    void setReal(int byteOffset, float value);
 
     std::vector<float> snapshot() const;
 
@@ -42,7 +43,6 @@ public:
 private:
     float real(int byteOffset) const;
     int32_t integer(int byteOffset) const;
-    void setReal(int byteOffset, float value);
     void setInteger(int byteOffset, int32_t value);
 
     void processFlushed(const float* const* inputs, float* const* outputs, const void* record,

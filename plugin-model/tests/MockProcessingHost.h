@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A processing host that records every call an instance makes. By itself it has a runtime
+// architecture, a rate and memory to give, and answers 0 to everything else.
+#pragma once
+
+#include "plugin-model/INoxPlugIn.h"
+#include "plugin-model/INoxPlugInProcessingHost.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <vector>
+
+class MockProcessingHost : public INoxPlugInProcessingHost {
+public:
+    explicit MockProcessingHost(NoxRuntimeArchitecture architecture = NoxArchitecture::native,
+                                double rate = 44100.0) {
+        using ::testing::Return;
+        ON_CALL(*this, runtimeArchitecture).WillByDefault(Return(architecture));
+        ON_CALL(*this, sampleRate).WillByDefault(Return(rate));
+        ON_CALL(*this, defaultInputSlot).WillByDefault(Return(-1));
+        ON_CALL(*this, defaultOutputSlot).WillByDefault(Return(-1));
+        ON_CALL(*this, allocateRemoteBlock).WillByDefault([this](std::size_t, const char*) {
+            blocks.push_back(std::make_unique<char>());
+            return static_cast<void*>(blocks.back().get());
+        });
+    }
+
+    MOCK_METHOD(const char*, className, (), (const, override));
+    MOCK_METHOD(const char*, hostLabel, (), (const, override));
+    MOCK_METHOD(void, setEnvironment, (INoxPlugInEnvironment*), (override));
+    MOCK_METHOD(INoxPlugInEnvironment*, environment, (), (const, override));
+    MOCK_METHOD(NoxRuntimeArchitecture, runtimeArchitecture, (), (const, override));
+    MOCK_METHOD(std::uint32_t, hostWord, (), (const, override));
+    MOCK_METHOD(void, setHostFlag, (), (override));
+    MOCK_METHOD(void, clearHostFlag, (), (override));
+    MOCK_METHOD(bool, hostFlag, (), (const, override));
+    MOCK_METHOD(void, beginNotifications, (), (override));
+    MOCK_METHOD(void, endNotifications, (), (override));
+    MOCK_METHOD(void, postNotification, (INoxPlugInNotificationTarget&, std::uint64_t), (override));
+    MOCK_METHOD(void, setSampleRate, (const double*), (override));
+    MOCK_METHOD(double, sampleRate, (), (const, override));
+    MOCK_METHOD(void, setBlockSize, (std::int32_t), (override));
+    MOCK_METHOD(std::int32_t, blockSize, (), (const, override));
+    MOCK_METHOD(float*, scratchBufferA, (), (override));
+    MOCK_METHOD(float*, scratchBufferB, (), (override));
+    MOCK_METHOD(NoxResult, instantiate, (INoxPlugIn&), (override));
+    MOCK_METHOD(NoxResult, testInstantiatePlugIn, (INoxPlugIn&), (override));
+    MOCK_METHOD(NoxResult, removePlugIn, (INoxPlugIn*), (override));
+    MOCK_METHOD(std::int32_t, slotCount, (), (const, override));
+    MOCK_METHOD(const NoxSlotRecord*, slotInfo, (std::int32_t), (const, override));
+    MOCK_METHOD(INoxPlugIn*, plugInAt, (std::int32_t), (const, override));
+    MOCK_METHOD(std::int32_t, defaultInputSlot, (std::int32_t), (const, override));
+    MOCK_METHOD(std::int32_t, defaultOutputSlot, (std::int32_t), (const, override));
+    MOCK_METHOD(void*, allocateRemoteBlock, (std::size_t, const char*), (override));
+    MOCK_METHOD(void, freeRemoteBlock, (void*), (override));
+    MOCK_METHOD(NoxResult, writeRemoteBlock, (void*, std::size_t, std::size_t, const void*),
+                (override));
+    MOCK_METHOD(NoxResult, readRemoteBlock, (void*, std::size_t, std::size_t, void*), (override));
+    MOCK_METHOD(NoxResult, readPlugInData,
+                (INoxPlugIn&, std::uint64_t, std::size_t, std::size_t, void*), (override));
+    MOCK_METHOD(NoxResult, sendCoefficients,
+                (std::uint32_t, INoxPlugIn&, std::uint64_t, std::uint32_t, const void*),
+                (override));
+    MOCK_METHOD(NoxResult, sendMessage,
+                (std::uint32_t, INoxPlugIn&, std::uint64_t, std::uint32_t, const void*),
+                (override));
+    MOCK_METHOD(NoxResult, announceTransfer,
+                (std::uint32_t, INoxPlugIn&, std::uint64_t, std::int32_t, const std::int32_t*),
+                (override));
+    MOCK_METHOD(NoxResult, fetchInputCopy,
+                (INoxPlugIn&, std::uint64_t, std::uint32_t, std::uint32_t, void*), (override));
+    MOCK_METHOD(NoxResult, fetchAnalysisData, (INoxPlugIn&, std::uint64_t, void*), (override));
+
+private:
+    std::vector<std::unique_ptr<char>> blocks;
+};
