@@ -31,6 +31,9 @@ Function* originalOf(const char* name, std::atomic<void*>& cache) {
 /// Visible although everything else is hidden, or the libraries would not find it.
 #define INTERPOSED extern "C" [[gnu::visibility("default")]]
 
+// A type and a declarator cannot be put in parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
+
 /// Defines an interposed function: result type, name, parameters and arguments, both in
 /// parentheses.
 #define INTERPOSE(result, name, parameters, arguments)                                             \
@@ -40,3 +43,5 @@ Function* originalOf(const char* name, std::atomic<void*>& cache) {
         return originalOf<result parameters>(#name, original) arguments;                           \
     }                                                                                              \
     static_assert(true)
+
+// NOLINTEND(bugprone-macro-parentheses)

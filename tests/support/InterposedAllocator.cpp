@@ -12,6 +12,9 @@
 #include <cstddef>
 #include <malloc.h>
 
+// The C library's headers name parameters in its own, reserved way.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name,bugprone-reserved-identifier)
+
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
@@ -71,3 +74,5 @@ INTERPOSED int posix_memalign(void** block, std::size_t alignment, std::size_t s
     *block = result;
     return 0;
 }
+
+// NOLINTEND(readability-inconsistent-declaration-parameter-name,bugprone-reserved-identifier)

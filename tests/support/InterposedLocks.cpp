@@ -9,6 +9,9 @@
 #include <pthread.h>
 #include <semaphore.h>
 
+// The C library's headers name parameters in its own, reserved way.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
+
 // clang-format off
 INTERPOSE(int, pthread_mutex_lock,       (pthread_mutex_t* mutex), (mutex));
 INTERPOSE(int, pthread_mutex_trylock,    (pthread_mutex_t* mutex), (mutex));
@@ -43,3 +46,5 @@ INTERPOSE(int, sem_timedwait, (sem_t* semaphore, const timespec* until), (semaph
 INTERPOSE(int, sem_clockwait, (sem_t* semaphore, clockid_t clock, const timespec* until), (semaphore, clock, until));
 INTERPOSE(int, sem_post,      (sem_t* semaphore), (semaphore));
 // clang-format on
+
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)

@@ -38,8 +38,8 @@ public:
 /// alone, so that the samples have the same bits everywhere.
 class Strokes {
 public:
-    explicit Strokes(uint64_t seed)
-        : random(seed) {}
+    explicit Strokes(uint64_t start)
+        : random(start) {}
 
     float next() {
         if (untilStroke-- == 0) {

@@ -3,7 +3,8 @@
 // The shipped processor against the reference, bit for bit: outputs and the whole state image,
 // after every one of many random blocks. Records reach the shipped one through the real queue.
 //
-// BROLT_IDENTITY_BLOCKS sets the number of blocks for each layout, BROLT_IDENTITY_SEED the seed.
+// BROLT_IDENTITY_BLOCKS sets the number of blocks for each layout, BROLT_IDENTITY_START the start
+// of the random numbers.
 
 #include "brolt/signal/QMCoefficientQueue.h"
 #include "brolt/signal/tests/BroltTestKit.h"
@@ -26,7 +27,7 @@ namespace {
 constexpr int32_t longestBlock = 4096;
 constexpr int32_t margin = 8; ///< samples behind a block that nobody may touch
 constexpr uint64_t defaultBlocks = 200000;
-constexpr uint64_t defaultSeed = 20240229;
+constexpr uint64_t defaultStart = 20240229;
 
 uint64_t environmentNumber(const char* name, uint64_t otherwise) {
     const char* text = std::getenv(name);
@@ -120,8 +121,8 @@ using Buffers = std::array<std::array<float, longestBlock + margin>, 4>;
 template <int N>
 class Comparison {
 public:
-    explicit Comparison(uint64_t seed)
-        : random(seed)
+    explicit Comparison(uint64_t start)
+        : random(start)
         , reference(N) {
         Brolt<N, float>::initialiseState(state);
     }
@@ -275,20 +276,20 @@ private:
 
 template <int N>
 void compareManyBlocks() {
-    const uint64_t seed = environmentNumber("BROLT_IDENTITY_SEED", defaultSeed);
+    const uint64_t start = environmentNumber("BROLT_IDENTITY_START", defaultStart);
     const uint64_t blocks = environmentNumber("BROLT_IDENTITY_BLOCKS", defaultBlocks);
-    ASSERT_NE(seed, 0U);
+    ASSERT_NE(start, 0U);
     ASSERT_GT(blocks, 0U);
 
-    const auto comparison = std::make_unique<Comparison<N>>(seed);
+    const auto comparison = std::make_unique<Comparison<N>>(start);
     for (uint64_t block = 0; block < blocks; ++block) {
         comparison->runBlock();
         if (testing::Test::HasFatalFailure()) {
-            FAIL() << "in block " << block << " with BROLT_IDENTITY_SEED=" << seed;
+            FAIL() << "in block " << block << " with BROLT_IDENTITY_START=" << start;
         }
     }
     std::cout << N << " channel(s): " << blocks << " blocks, " << comparison->frames
-              << " frames identical, seed " << seed << '\n';
+              << " frames identical, random numbers from " << start << '\n';
 }
 
 } // namespace

@@ -10,8 +10,8 @@
 
 namespace {
 
-std::vector<float> noise(uint64_t seed, std::size_t frames, float amplitude = 1.0F) {
-    TestRandom random(seed);
+std::vector<float> noise(uint64_t start, std::size_t frames, float amplitude = 1.0F) {
+    TestRandom random(start);
     std::vector<float> samples(frames);
     for (float& sample : samples)
         sample = amplitude * random.sample();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Random numbers that are the same on every platform: the distributions of the standard library are
-// not, and a digest or a seed in a failure message has to mean the same everywhere.
+// not, and a digest or the starting number in a failure message has to mean the same everywhere.
 
 #pragma once
 
@@ -12,9 +12,9 @@
 /// generators, scrambled", 2016).
 class TestRandom {
 public:
-    /// Any seed but 0.
-    explicit TestRandom(uint64_t seed)
-        : word(seed) {}
+    /// Any start but 0.
+    explicit TestRandom(uint64_t start)
+        : word(start) {}
 
     uint32_t next() {
         word ^= word >> 12;
