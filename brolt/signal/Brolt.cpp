@@ -1,45 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// The order of a block, and the operations on a state block between blocks.
-//
-// Each stage's sample depends on its own past and on the same frame of the stages before it, and on
-// nothing else. A block may therefore be run in pieces, each stage carrying its values from piece
-// to piece, with the same result as stage after stage over the whole block, buffers in place
-// included. This keeps the scratch memory at a fixed size on the stack for blocks of any length.
+// The order of a block around its frames, and the operations on a state block between blocks.
 
 #include "brolt/signal/Brolt.h"
 
+#include "brolt/signal/BlockChains.h"
+#include "brolt/signal/LaneFrames.h"
+#include "brolt/signal/PlainFrames.h"
 #include "brolt/signal/ScopedFlushToZero.h"
 #include "brolt/signal/SharedWord.h"
-#include "brolt/signal/SmoothedGains.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace {
-
-constexpr int32_t pieceLength = 256;
-
-struct alignas(16) Scratch {
-    float detection[pieceLength];
-    float level[pieceLength];
-    float pitch[pieceLength];
-    float osc1[pieceLength];
-    float osc2[pieceLength];
-};
-
-template <int N>
-void detectionInput(const float* const* inputs, int32_t first, float* detection, int32_t frames) {
-    for (int32_t i = 0; i < frames; ++i) {
-        const float left = std::fabs(inputs[0][first + i]);
-        if constexpr (N == 1) {
-            detection[i] = left;
-        } else {
-            const float right = std::fabs(inputs[1][first + i]);
-            detection[i] = left > right ? left : right;
-        }
-    }
-}
 
 template <int N>
 void loadMeterBallistics(BroltState<N>& state, const Coefficients& coefficients) {
@@ -82,6 +53,27 @@ void serveSnapshotRequest(BroltState<N>& state) {
 }
 
 template <int N>
+BlockChains<N> chainsOf(const BroltState<N>& state) {
+    BlockChains<N> chains;
+    chains.gains = {state.outputGain, state.wetMix, state.osc1Gain, state.osc2Gain};
+    chains.levelDetector = state.levelDetector;
+    chains.pitchDetector = state.pitchDetector;
+    chains.oscillator1 = state.oscillator1;
+    chains.oscillator2 = state.oscillator2;
+    for (std::size_t c = 0; c < N; ++c) {
+        const OutputMeter& from = state.outputMeters[c];
+        OutputMeter& to = chains.outputMeters[c];
+        to.envelope = loadShared(from.envelope);
+        to.meanSquare = loadShared(from.meanSquare);
+        to.peak = loadShared(from.peak);
+        to.envelopeCoefficient = from.envelopeCoefficient;
+        to.meanSquareCoefficient = from.meanSquareCoefficient;
+        to.peakDecay = from.peakDecay;
+    }
+    return chains;
+}
+
+template <int N>
 void storeGains(BroltState<N>& state, const SmoothedGains& gains) {
     state.outputGain = gains.output;
     state.wetMix = gains.wet;
@@ -89,72 +81,50 @@ void storeGains(BroltState<N>& state, const SmoothedGains& gains) {
     storeShared(state.osc2Gain, gains.osc2);
 }
 
-// Not inlined, so that no arithmetic leaves the scope in which subnormals are flushed.
 template <int N>
+void storeChains(BroltState<N>& state, const BlockChains<N>& chains) {
+    storeGains(state, chains.gains);
+    storeShared(state.levelDetector.level, chains.levelDetector.level);
+    state.levelDetector.direction = chains.levelDetector.direction;
+    state.pitchDetector = chains.pitchDetector;
+    state.oscillator1 = chains.oscillator1;
+    state.oscillator2 = chains.oscillator2;
+    storeShared(state.osc1LastSine, chains.osc1LastSine);
+    storeShared(state.osc2LastSine, chains.osc2LastSine);
+    for (std::size_t c = 0; c < N; ++c) {
+        storeShared(state.outputMeters[c].envelope, chains.outputMeters[c].envelope);
+        storeShared(state.outputMeters[c].meanSquare, chains.outputMeters[c].meanSquare);
+        storeShared(state.outputMeters[c].peak, chains.outputMeters[c].peak);
+    }
+}
+
+// Not inlined, so that no arithmetic leaves the scope in which subnormals are flushed.
+template <int N, bool mayUseLanes>
 [[gnu::noinline]] void processBlock(BroltState<N>& state, const float* const* inputs,
                                     float* const* outputs, const Coefficients& coefficients,
                                     int32_t frameCount) noexcept {
-    const SmoothedGains targets{coefficients.outputGain, coefficients.wetMix, coefficients.osc1Gain,
-                                coefficients.osc2Gain};
+    const BlockConstants constants{{coefficients.outputGain, coefficients.wetMix,
+                                    coefficients.osc1Gain, coefficients.osc2Gain},
+                                   {state.smoothingPole, state.smoothingStep}};
     if (state.firstBlock != 0) {
-        storeGains(state, targets);
+        storeGains(state, constants.targets);
         state.firstBlock = 0;
     }
     loadMeterBallistics(state, coefficients);
 
-    const GainSmoothing smoothing{state.smoothingPole, state.smoothingStep};
-    const SmoothedGains gainsAtStart{state.outputGain, state.wetMix, state.osc1Gain,
-                                     state.osc2Gain};
-    SmoothedGains gains = gainsAtStart;
-    EnvelopeDetector levelDetector = state.levelDetector;
-    EnvelopeDetector pitchDetector = state.pitchDetector;
-    SineOscillator oscillator1 = state.oscillator1;
-    SineOscillator oscillator2 = state.oscillator2;
-    float osc1LastSine = 0.0F;
-    float osc2LastSine = 0.0F;
+    BlockChains<N> chains = chainsOf(state);
+    const SmoothedGains gainsAtStart = chains.gains;
+    int32_t done = 0;
+    if (mayUseLanes && frameCount >= fewestLaneFrames &&
+        lanesApply(chains, coefficients, inputs, outputs, frameCount))
+        done = runFramesInLanes(chains, inputs, outputs, coefficients, constants, frameCount);
+    if (done < frameCount)
+        runFramesPlainly(chains, inputs, outputs, coefficients, constants, done, frameCount - done);
 
-    Scratch scratch;
-    const MixSources sources{scratch.osc1, scratch.osc2, scratch.level};
-
-    for (int32_t first = 0, frames = 0; first < frameCount; first += frames) {
-        frames = std::min(pieceLength, frameCount - first);
-
-        detectionInput<N>(inputs, first, scratch.detection, frames);
-        levelDetector.follow(scratch.detection, scratch.level, frames, coefficients.levelAttack,
-                             coefficients.levelRelease);
-        pitchDetector.follow(scratch.detection, scratch.pitch, frames, coefficients.pitchAttack,
-                             coefficients.pitchRelease);
-        osc1LastSine = oscillator1.run(scratch.pitch, scratch.osc1, frames,
-                                       coefficients.osc1AttackT, coefficients.osc1SustainT);
-        osc2LastSine = oscillator2.run(scratch.pitch, scratch.osc2, frames,
-                                       coefficients.osc2AttackT, coefficients.osc2SustainT);
-
-        // Every channel starts from the same gains and so sees the same course of them. All
-        // channels are mixed before any is metered: two outputs may be one buffer.
-        SmoothedGains reached = gains;
-        for (int channel = 0; channel < N; ++channel) {
-            reached = mixChannel(sources, inputs[channel] + first, outputs[channel] + first, frames,
-                                 gains, targets, smoothing);
-        }
-        gains = reached;
-
-        for (int channel = 0; channel < N; ++channel) {
-            state.outputMeters[static_cast<std::size_t>(channel)].follow(outputs[channel] + first,
-                                                                         frames);
-        }
-    }
-
-    levelDetector.clampDirection();
-    pitchDetector.clampDirection();
-
-    storeGains(state, settledGains(gainsAtStart, gains, targets));
-    storeShared(state.levelDetector.level, levelDetector.level);
-    state.levelDetector.direction = levelDetector.direction;
-    state.pitchDetector = pitchDetector;
-    state.oscillator1 = oscillator1;
-    state.oscillator2 = oscillator2;
-    storeShared(state.osc1LastSine, osc1LastSine);
-    storeShared(state.osc2LastSine, osc2LastSine);
+    chains.levelDetector.clampDirection();
+    chains.pitchDetector.clampDirection();
+    chains.gains = settledGains(gainsAtStart, chains.gains, constants.targets);
+    storeChains(state, chains);
 
     serveSnapshotRequest(state);
 }
@@ -165,7 +135,15 @@ template <int N, typename Sample>
 void Brolt<N, Sample>::process(State& state, const Sample* const* inputs, Sample* const* outputs,
                                const Coefficients& coefficients, int32_t frameCount) noexcept {
     const ScopedFlushToZero flushToZero;
-    processBlock<N>(state, inputs, outputs, coefficients, frameCount);
+    processBlock<N, true>(state, inputs, outputs, coefficients, frameCount);
+}
+
+template <int N, typename Sample>
+void Brolt<N, Sample>::processPlainly(State& state, const Sample* const* inputs,
+                                      Sample* const* outputs, const Coefficients& coefficients,
+                                      int32_t frameCount) noexcept {
+    const ScopedFlushToZero flushToZero;
+    processBlock<N, false>(state, inputs, outputs, coefficients, frameCount);
 }
 
 template <int N, typename Sample>

@@ -33,6 +33,11 @@ public:
     static void process(State& state, const Sample* const* inputs, Sample* const* outputs,
                         const Coefficients& coefficients, int32_t frameCount) noexcept;
 
+    /// The same without the fast form of the frames: for tests, and to measure against.
+    /// [audio thread]
+    static void processPlainly(State& state, const Sample* const* inputs, Sample* const* outputs,
+                               const Coefficients& coefficients, int32_t frameCount) noexcept;
+
     /// Makes any memory of the right size a processor before its first block. [any thread]
     static void initialiseState(State& state) noexcept;
 

@@ -14,9 +14,9 @@ void OutputMeter::follow(const float* samples, int32_t frames) noexcept {
     const float meanSquareStep = 1.0F - meanSquareCoefficient;
     const float decay = peakDecay;
 
-    float amplitude = loadShared(envelope);
-    float power = loadShared(meanSquare);
-    float held = loadShared(peak);
+    float amplitude = envelope;
+    float power = meanSquare;
+    float held = peak;
 
     for (int32_t i = 0; i < frames; ++i) {
         const float sample = samples[i];
@@ -28,9 +28,9 @@ void OutputMeter::follow(const float* samples, int32_t frames) noexcept {
         amplitude += (absolute - amplitude) * envelopeStep;
     }
 
-    storeShared(envelope, amplitude);
-    storeShared(meanSquare, power);
-    storeShared(peak, held);
+    envelope = amplitude;
+    meanSquare = power;
+    peak = held;
 }
 
 void OutputMeter::clear() noexcept {

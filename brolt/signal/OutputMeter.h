@@ -23,7 +23,8 @@ struct OutputMeter {
     float peakDecay = 0.9999F;
     int32_t meterKind = 4; ///< carried for hosts, not read here
 
-    /// Follows `frames` output samples. [audio thread]
+    /// Follows `frames` output samples. On a meter of the block's own, not on the image: see
+    /// BlockChains. [audio thread]
     void follow(const float* samples, int32_t frames) noexcept;
 
     /// Zeroes the three values and keeps the ballistics. [any thread]

@@ -13,7 +13,7 @@ const std::vector<Layer>& layerTable() {
          .paths = {"brolt/signal/"},
          .sees = {},
          // The floating-point control word.
-         .platformHeaders = {"xmmintrin.h"}},
+         .platformHeaders = {"xmmintrin.h", "emmintrin.h"}},
         {.name = "model",
          .paths = {"plugin-model/", "services/Log", "services/tests/"},
          .sees = {},

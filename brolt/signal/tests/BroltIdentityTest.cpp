@@ -26,7 +26,7 @@ namespace {
 
 constexpr int32_t longestBlock = 4096;
 constexpr int32_t margin = 8; ///< samples behind a block that nobody may touch
-constexpr uint64_t defaultBlocks = 200000;
+constexpr uint64_t defaultBlocks = 500000;
 constexpr uint64_t defaultStart = 20240229;
 
 uint64_t environmentNumber(const char* name, uint64_t otherwise) {

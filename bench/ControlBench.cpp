@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the control side costs: a record, a change on its way to the queue, a snapshot, an instance.
+
+#include "QMShell/hosting/NoxPlugInEnvironment.h"
+#include "QMShell/hosting/QMShellPlugInProcessingHost.h"
+#include "bench/Benchmarks.h"
+#include "brolt/model/QMBrolt_PlugInTypeGroup.h"
+#include "brolt/model/QMBrolt_ProductCodes.h"
+#include "brolt/signal/Brolt.h"
+#include "brolt/signal/CoefficientComputation.h"
+#include "plugin-model/INoxPlugIn.h"
+#include "plugin-model/INoxPlugInType.h"
+
+#include <array>
+#include <benchmark/benchmark.h>
+
+namespace {
+
+void benchCoefficients(benchmark::State& state) {
+    BroltParameters parameters;
+    parameters.osc1AttackFrequency = 100.0F;
+    parameters.osc1SustainFrequency = 60.0F;
+    parameters.osc2AttackFrequency = 200.0F;
+    parameters.osc2SustainFrequency = 120.0F;
+    parameters.envelopeAttack = 2.0F;
+    parameters.envelopeRelease = 140.0F;
+    parameters.pitchAttack = 2.0F;
+    parameters.pitchRelease = 140.0F;
+    Coefficients record;
+    for (auto unused : state) {
+        (void)unused;
+        benchmark::DoNotOptimize(parameters);
+        computeCoefficients(record, parameters);
+        benchmark::DoNotOptimize(record);
+    }
+}
+
+void benchSnapshot(benchmark::State& state) {
+    BroltState<2> processor;
+    std::array<float, BroltState<2>::snapshotLength> snapshot{};
+    for (auto unused : state) {
+        (void)unused;
+        Brolt<2, float>::copySnapshot(processor, snapshot.data());
+        benchmark::DoNotOptimize(snapshot);
+    }
+}
+
+/// An environment with a host and the product's types.
+struct Model {
+    NoxPlugInEnvironment environment;
+    QMShellPlugInProcessingHost host{&environment};
+    QMBrolt_PlugInTypeGroup group{&environment};
+    INoxPlugInType& stereo = *group.typeOfIndex(QMBrolt::stereoTypeIndex);
+
+    std::unique_ptr<INoxPlugIn> newInstance() {
+        auto instance = stereo.createAndRecordInstance();
+        instance->createProcessingState();
+        instance->setProcessingHost(&host);
+        return instance;
+    }
+};
+
+void benchParameterChange(benchmark::State& state) {
+    constexpr std::int32_t outputGain = 14;
+    Model model;
+    const auto instance = model.newInstance();
+    double decibels = 0.0;
+    for (auto unused : state) {
+        (void)unused;
+        decibels = decibels > 0.0 ? 0.0 : 1.0;
+        instance->setParameterValue(outputGain, decibels);
+    }
+    instance->setProcessingHost(nullptr);
+}
+
+void benchInstance(benchmark::State& state) {
+    Model model;
+    for (auto unused : state) {
+        (void)unused;
+        const auto instance = model.newInstance();
+        benchmark::DoNotOptimize(instance.get());
+        instance->setProcessingHost(nullptr);
+    }
+}
+
+} // namespace
+
+void registerControlBenchmarks() {
+    benchmark::RegisterBenchmark("BM_ComputeCoefficients", benchCoefficients);
+    benchmark::RegisterBenchmark("BM_ParameterChangeToQueue", benchParameterChange);
+    benchmark::RegisterBenchmark("BM_SnapshotCopy", benchSnapshot);
+    benchmark::RegisterBenchmark("BM_InstanceCreation", benchInstance);
+}
