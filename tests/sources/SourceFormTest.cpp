@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -72,12 +73,29 @@ TEST(SourceForm, everyFileBeginsWithTheLicenceLine) {
     }
 }
 
+namespace {
+
+/// The header that explains a body: its own, or for FooTest.cpp in a folder of tests the Foo.h
+/// above.
+bool isExplainedByAHeader(const std::filesystem::path& body) {
+    std::filesystem::path header = body;
+    if (is_regular_file(header.replace_extension(".h"))) {
+        return true;
+    }
+    const std::string stem = body.stem().string();
+    constexpr std::string_view ending = "Test";
+    return stem.ends_with(ending) &&
+           is_regular_file(body.parent_path().parent_path() /
+                           (stem.substr(0, stem.size() - ending.size()) + ".h"));
+}
+
+} // namespace
+
 // A body is explained by its header, so it may do without a comment of its own.
 TEST(SourceForm, aCommentOpensEveryHeaderAndEveryBodyThatHasNone) {
     for (const std::string& file : findSourceFiles(sourceRoot)) {
         const std::filesystem::path path = sourceRoot / file;
-        std::filesystem::path header = path;
-        if (path.extension() == ".cpp" && is_regular_file(header.replace_extension(".h"))) {
+        if (path.extension() == ".cpp" && isExplainedByAHeader(path)) {
             continue;
         }
         const std::vector<std::string> lines = readLines(path);
