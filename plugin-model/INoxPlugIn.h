@@ -147,6 +147,7 @@ public:
     virtual void setParameterValue(std::int32_t index, double value,
                                    QM::QMParameterChanges* changes = nullptr) = 0;
     virtual void setNormalisedValue(std::int32_t index, double normalised) = 0;
+    /// Stores and flushes past the values object's listeners; the environment is told.
     virtual void storeAndFlush(std::int32_t index, double value) = 0;
     virtual void beginAccumulate() = 0;
     virtual void endAccumulate() = 0;

@@ -207,6 +207,9 @@ private:
     void parameterValueSet(QM::IQMParameterValues&, std::int32_t, double) override {}
 
     [[nodiscard]] bool isParameterIndex(std::int32_t index) const;
+    /// Makes the change and tells the environment when the value is another one afterwards.
+    template <typename Change>
+    void changeParameter(std::int32_t index, Change change);
 
     double sampleRate_ = 44100.0;
     INoxPlugInProcessingHost* host_;

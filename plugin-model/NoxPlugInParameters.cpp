@@ -39,8 +39,8 @@ double NoxPlugIn::normalisedValue(std::int32_t index) const {
     return set != nullptr ? set->plainToNormalised(index, parameterValue(index)) : 0.0;
 }
 
-void NoxPlugIn::setParameterValue(std::int32_t index, double value,
-                                  QM::QMParameterChanges* changes) {
+template <typename Change>
+void NoxPlugIn::changeParameter(std::int32_t index, Change change) {
     if (!isParameterIndex(index)) {
         QM::log(QM::LogLevel::error, "Error: got unexpected parameter index: %d\n", index);
         return;
@@ -48,10 +48,17 @@ void NoxPlugIn::setParameterValue(std::int32_t index, double value,
     if (values_ == nullptr)
         return;
     const double before = values_->getValue(index);
-    values_->setParameterValue(index, value, changes);
+    change(*values_);
     const double after = values_->getValue(index);
     if (environment_ != nullptr && after != before)
         environment_->parameterChanged(*this, index, after, 0);
+}
+
+void NoxPlugIn::setParameterValue(std::int32_t index, double value,
+                                  QM::QMParameterChanges* changes) {
+    changeParameter(index, [&](QM::QMParameterValues& values) {
+        values.setParameterValue(index, value, changes);
+    });
 }
 
 void NoxPlugIn::setNormalisedValue(std::int32_t index, double normalised) {
@@ -61,8 +68,8 @@ void NoxPlugIn::setNormalisedValue(std::int32_t index, double normalised) {
 }
 
 void NoxPlugIn::storeAndFlush(std::int32_t index, double value) {
-    if (values_ != nullptr)
-        values_->storeAndFlush(index, value);
+    changeParameter(index,
+                    [&](QM::QMParameterValues& values) { values.storeAndFlush(index, value); });
 }
 
 void NoxPlugIn::beginAccumulate() {

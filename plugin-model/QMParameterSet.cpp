@@ -169,7 +169,9 @@ void QMParameterSet::formatValueText(std::int32_t index, double value, char* buf
 void QMParameterSet::formatValueTextWithUnit(std::int32_t index, double value, char* buffer,
                                              std::size_t size) const {
     const NoxPlugInParameter* parameter = record(index);
-    if (parameter != nullptr && parameter->formatValueWithUnit != nullptr)
+    if (parameter == nullptr)
+        copyText(buffer, size, "");
+    else if (parameter->formatValueWithUnit != nullptr)
         parameter->formatValueWithUnit(*parameter, value, buffer, size);
 }
 

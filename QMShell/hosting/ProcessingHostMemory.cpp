@@ -45,7 +45,7 @@ NoxResult QMShellPlugInProcessingHost::readRemoteBlock(void* address, std::size_
         return NoxResultCode::noHostAvailable;
     const RemoteBlock& block = found->second;
     const std::size_t available = block.size - std::min(offset, block.size);
-    if (length > available)
+    if (offset > block.size || length > available)
         QM::log(QM::LogLevel::error, "Requested Length extends past remote block; truncating!\n");
     const std::size_t copied = std::min(length, available);
     if (copied > 0)

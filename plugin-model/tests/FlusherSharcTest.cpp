@@ -23,7 +23,7 @@ protected:
     parameterTest::Set set;
     StrictMock<flusherTest::Values> values{set};
     StrictMock<flusherTest::PlugIn> plugIn;
-    StrictMock<flusherTest::Host> host;
+    StrictMock<MockProcessingHost> host;
 };
 
 } // namespace

@@ -188,11 +188,11 @@ TEST_F(IOConnectionControllerTest, theSharcControllerSendsEachConnectionAsThreeW
     std::vector<std::vector<std::int32_t>> sent;
     EXPECT_CALL(host, sendCoefficients(3, Ref(plugIn), id, 3, _))
         .Times(4)
-        .WillRepeatedly([&](std::uint32_t, INoxPlugIn&, std::uint64_t, std::uint32_t count,
-                            const void* words) {
-            sent.push_back(connectionWords(count, words));
-            return NoxResultCode::noError;
-        });
+        .WillRepeatedly(
+            [&](std::uint32_t, INoxPlugIn&, std::uint64_t, std::uint32_t count, const void* words) {
+                sent.push_back(connectionWords(count, words));
+                return NoxResultCode::noError;
+            });
     sharc.inputConnected(4, 5);
     sharc.outputConnected(6, -7);
     sharc.setInputCode(11);
@@ -224,11 +224,11 @@ TEST_F(IOConnectionControllerTest, anInstanceOnASharcHostSendsItsConnections) {
     plugIn.setProcessingHost(&sharcHost);
     std::vector<std::vector<std::int32_t>> sent;
     EXPECT_CALL(sharcHost, sendCoefficients(3, Ref(plugIn), id, 3, _))
-        .WillRepeatedly([&](std::uint32_t, INoxPlugIn&, std::uint64_t, std::uint32_t count,
-                            const void* words) {
-            sent.push_back(connectionWords(count, words));
-            return NoxResultCode::noError;
-        });
+        .WillRepeatedly(
+            [&](std::uint32_t, INoxPlugIn&, std::uint64_t, std::uint32_t count, const void* words) {
+                sent.push_back(connectionWords(count, words));
+                return NoxResultCode::noError;
+            });
     plugIn.connectInput(1, 8);
     plugIn.connectOutput(2, 5);
     plugIn.connectOutput(2, 6);

@@ -9,6 +9,7 @@
 class MockEnvironment : public INoxPlugInEnvironment {
 public:
     NoxHostDescription& hostDescription() override { return description; }
+
     MOCK_METHOD(void, setHostDescription, (const NoxHostDescription&), (override));
     MOCK_METHOD(void, getTimeInfo, (NoxTimeInfo&), (override));
     MOCK_METHOD(void, setPosition, (std::uint64_t), (override));

@@ -52,6 +52,7 @@ constexpr std::array<Row, 19> rows{{
     {16, Delivery::none,      Controller::none},
     {99, Delivery::none,      Controller::none},
 }};
+
 // clang-format on
 
 class NoxPlugInArchitecture : public ::testing::TestWithParam<Row> {
@@ -81,10 +82,10 @@ TEST_P(NoxPlugInArchitecture, selectsTheRoadOfTheFirstFlush) {
         EXPECT_CALL(host, sendMessage(0, Ref(plugIn), id, 3, NotNull()));
     }
     plugIn.setProcessingHost(&host);
-    EXPECT_EQ(plugIn.pushedLengths, inProcess ? std::vector<std::uint64_t>{8}
-                                              : std::vector<std::uint64_t>{});
-    EXPECT_EQ(plugIn.messageLengths, inProcess ? std::vector<std::uint64_t>{12}
-                                               : std::vector<std::uint64_t>{});
+    EXPECT_EQ(plugIn.pushedLengths,
+              inProcess ? std::vector<std::uint64_t>{8} : std::vector<std::uint64_t>{});
+    EXPECT_EQ(plugIn.messageLengths,
+              inProcess ? std::vector<std::uint64_t>{12} : std::vector<std::uint64_t>{});
 }
 
 TEST_P(NoxPlugInArchitecture, decidesWhoAnswersForTheHostStatus) {
@@ -118,10 +119,10 @@ TEST_P(NoxPlugInArchitecture, isAnsweredAsTheHostKind) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryNumber, NoxPlugInArchitecture, ::testing::ValuesIn(rows),
-                         [](const auto& info) {
-                             return info.param.architecture < 0
+                         [](const ::testing::TestParamInfo<Row>& row) {
+                             return row.param.architecture < 0
                                         ? std::string("negative")
-                                        : std::to_string(info.param.architecture);
+                                        : std::to_string(row.param.architecture);
                          });
 
 namespace {

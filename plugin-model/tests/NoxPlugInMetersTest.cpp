@@ -64,8 +64,10 @@ TEST_F(NoxPlugInMeters, aNegativeCountIsNone) {
     class Strange : public TestPlugIn {
     public:
         using TestPlugIn::TestPlugIn;
+
         [[nodiscard]] std::int32_t meterRecordCount() const override { return -3; }
     };
+
     Strange strange(group.testType(), nullptr, nullptr);
     strange.resizeMeterRecords();
     EXPECT_EQ(strange.meterRecord(0), nullptr);

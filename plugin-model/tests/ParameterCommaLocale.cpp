@@ -3,6 +3,7 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <filesystem>
 #include <random>
 
 namespace parameterTest {
@@ -15,6 +16,56 @@ bool selectLocale(const char* name) {
     return std::string(std::localeconv()->decimal_point) == ",";
 }
 
+#ifndef _WIN32
+
+/// A German locale in a temporary folder, which goes at the end of the process.
+class CompiledLocale {
+public:
+    CompiledLocale()
+        : folder(std::filesystem::temp_directory_path() /
+                 ("qm-parameter-test-locale-" + std::to_string(std::random_device()()))) {
+        std::filesystem::create_directory(folder);
+        const std::string command = "localedef --no-archive -i de_DE -f UTF-8 '" +
+                                    (folder / name).string() + "' >/dev/null 2>&1";
+        compiled = std::system(command.c_str()) == 0;
+    }
+
+    ~CompiledLocale() {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    }
+
+    CompiledLocale(const CompiledLocale&) = delete;
+    CompiledLocale& operator=(const CompiledLocale&) = delete;
+
+    [[nodiscard]] bool select() const {
+        if (!compiled)
+            return false;
+        setenv("LOCPATH", folder.c_str(), 1);
+        const bool selected = selectLocale(name);
+        unsetenv("LOCPATH");
+        return selected;
+    }
+
+private:
+    static constexpr const char* name = "de_DE.UTF-8";
+    std::filesystem::path folder;
+    bool compiled = false;
+};
+
+bool selectCompiledLocale() {
+    static const CompiledLocale locale;
+    return locale.select();
+}
+
+#else
+
+bool selectCompiledLocale() {
+    return false;
+}
+
+#endif
+
 } // namespace
 
 CommaLocale::CommaLocale()
@@ -24,34 +75,11 @@ CommaLocale::CommaLocale()
         if (inForce)
             return;
     }
-    inForce = compileAndSelect();
+    inForce = selectCompiledLocale();
 }
 
 CommaLocale::~CommaLocale() {
     std::setlocale(LC_NUMERIC, localeBefore.c_str());
-    if (!compiledFolder.empty()) {
-        std::error_code ignored;
-        std::filesystem::remove_all(compiledFolder, ignored);
-    }
-}
-
-bool CommaLocale::compileAndSelect() {
-#ifdef _WIN32
-    return false;
-#else
-    compiledFolder = std::filesystem::temp_directory_path() /
-                     ("qm-parameter-test-locale-" + std::to_string(std::random_device()()));
-    std::filesystem::create_directory(compiledFolder);
-    const std::string name = "de_DE.UTF-8";
-    const std::string command = "localedef --no-archive -i de_DE -f UTF-8 '" +
-                                (compiledFolder / name).string() + "' >/dev/null 2>&1";
-    if (std::system(command.c_str()) != 0)
-        return false;
-    setenv("LOCPATH", compiledFolder.c_str(), 1);
-    const bool selected = selectLocale(name.c_str());
-    unsetenv("LOCPATH");
-    return selected;
-#endif
 }
 
 } // namespace parameterTest

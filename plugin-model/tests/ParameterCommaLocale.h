@@ -2,7 +2,6 @@
 // Switches the process's numbers to decimal commas, as a host may do, for as long as it lives.
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 namespace parameterTest {
@@ -10,7 +9,7 @@ namespace parameterTest {
 class CommaLocale {
 public:
     /// Tries the system's German locales; where there is none, compiles one into a temporary folder
-    /// with the system's own tool.
+    /// with the system's own tool, once a process.
     CommaLocale();
     ~CommaLocale();
     CommaLocale(const CommaLocale&) = delete;
@@ -20,10 +19,7 @@ public:
     [[nodiscard]] bool isInForce() const { return inForce; }
 
 private:
-    bool compileAndSelect();
-
     std::string localeBefore;
-    std::filesystem::path compiledFolder; ///< empty unless one was compiled
     bool inForce = false;
 };
 

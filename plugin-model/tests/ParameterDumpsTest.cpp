@@ -68,6 +68,22 @@ TEST_F(ParameterDumps, wideAndNegativeValuesAreWrittenWhole) {
                            "\n};\n");
 }
 
+TEST_F(ParameterDumps, theGreatestNumberIsWrittenWholeToo) {
+    constexpr double greatest = std::numeric_limits<double>::max();
+    NoxPlugInParameter record = parameterTest::parameters()[0];
+    record.defaultValue = greatest;
+    QM::QMParameterSet greatSet({&record, 1}, {}, {}, 1);
+    const QM::QMParameterValues great(greatSet, 48000.0);
+    const TemporaryFile file;
+    great.dumpDefaultsTable(nullptr, file.stream());
+
+    std::array<char, 400> digits{};
+    std::snprintf(digits.data(), digits.size(), "%.8f", greatest);
+    ASSERT_EQ(std::string(digits.data()).size(), 318u);
+    EXPECT_EQ(file.text(), std::string("static NoxPlugInParameter kDefaultValues[] =  {\n\t\t") +
+                               digits.data() + " \t// 0 'levl' 'Level'\n\t\n};\n");
+}
+
 TEST_F(ParameterDumps, anEmptyTableIsAnEmptyTable) {
     QM::QMParameterSet emptySet({}, {}, {}, 1);
     const QM::QMParameterValues none(emptySet, 48000.0);

@@ -47,7 +47,8 @@ private:
     Events& events;
 };
 
-/// What became of a RecordingFlusher, which its values object owns.
+/// What became of a RecordingFlusher. The values object owns the flusher, so the record has to
+/// outlive the values.
 struct FlushRecord {
     int flushes = 0;
     int destroyed = 0;
@@ -61,6 +62,7 @@ public:
         : record(flushRecord) {}
 
     ~RecordingFlusher() override { ++record.destroyed; }
+
     RecordingFlusher(const RecordingFlusher&) = delete;
     RecordingFlusher& operator=(const RecordingFlusher&) = delete;
 

@@ -169,7 +169,6 @@ TEST(QMParameterSetMeters, giveNeutralAnswersForIndicesOutOfRange) {
     for (const std::int32_t meter : {-1, 2, outOfRange[3], outOfRange[4]}) {
         EXPECT_EQ(set.meterID(meter), 0u);
         EXPECT_EQ(set.meterDescriptor(meter), nullptr);
-        EXPECT_EQ(
-            textWritten([&](char* b, std::size_t n) { set.copyMeterName(meter, b, n); }), "");
+        EXPECT_EQ(textWritten([&](char* b, std::size_t n) { set.copyMeterName(meter, b, n); }), "");
     }
 }

@@ -30,8 +30,8 @@ protected:
     }
 
     std::string subgroupCopy(std::int32_t group, std::int32_t subgroup, std::size_t size = 64) {
-        return textWritten(
-            [&](char* b, std::size_t n) { set.subgroupName(group, subgroup, b, n); }, size);
+        return textWritten([&](char* b, std::size_t n) { set.subgroupName(group, subgroup, b, n); },
+                           size);
     }
 
     const parameterTest::Set set;

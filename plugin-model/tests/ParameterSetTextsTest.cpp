@@ -24,8 +24,8 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 class ParameterSetTexts : public testing::Test {
 protected:
     std::string text(std::int32_t index, double value, std::size_t size = 64) {
-        return textWritten(
-            [&](char* b, std::size_t n) { set.formatValueText(index, value, b, n); }, size);
+        return textWritten([&](char* b, std::size_t n) { set.formatValueText(index, value, b, n); },
+                           size);
     }
 
     std::string textWithUnit(std::int32_t index, double value, std::size_t size = 64) {
@@ -45,12 +45,24 @@ struct NumberCase {
 
 TEST_F(ParameterSetTexts, aNumberWithoutFunctionsOrNamesIsPrintedPlainly) {
     const NumberCase cases[] = {
-        {1500.0, "1.5k"},       {5.0, "5"},           {-20.0, "-20"},
-        {1000.0, "1k"},         {999.96, "1000"},     {999.94, "999.9"},
-        {1234.56, "1.235k"},    {123456.0, "123.5k"}, {12345678.0, "1.235e+04k"},
-        {10.0, "10"},           {10.004, "10"},       {12.345, "12.35"},
-        {9.999, "10"},          {9.994, "9.99"},      {1.23456, "1.23"},
-        {0.0, "0"},             {0.5, "0.5"},         {0.00012345, "0.000123"},
+        {1500.0, "1.5k"},
+        {5.0, "5"},
+        {-20.0, "-20"},
+        {1000.0, "1k"},
+        {999.96, "1000"},
+        {999.94, "999.9"},
+        {1234.56, "1.235k"},
+        {123456.0, "123.5k"},
+        {12345678.0, "1.235e+04k"},
+        {10.0, "10"},
+        {10.004, "10"},
+        {12.345, "12.35"},
+        {9.999, "10"},
+        {9.994, "9.99"},
+        {1.23456, "1.23"},
+        {0.0, "0"},
+        {0.5, "0.5"},
+        {0.00012345, "0.000123"},
         {0.000012345, "1.23e-05"},
     };
     for (const NumberCase& each : cases)

@@ -19,6 +19,7 @@ public:
 
     /// Open for binary writing; never null.
     [[nodiscard]] std::FILE* stream() const { return file; }
+
     /// Everything written so far, byte for byte.
     [[nodiscard]] std::string text() const;
 

@@ -38,8 +38,8 @@ void hook(INoxPlugIn& instance, std::uint32_t option, std::int32_t index);
 class Set : public QM::QMParameterSet {
 public:
     explicit Set(std::int32_t typeIndex = 1)
-        : QMParameterSet(parameterTest::parameters(), parameterTest::groups(), parameterTest::meters(),
-                         typeIndex) {}
+        : QMParameterSet(parameterTest::parameters(), parameterTest::groups(),
+                         parameterTest::meters(), typeIndex) {}
 };
 
 } // namespace parameterTest

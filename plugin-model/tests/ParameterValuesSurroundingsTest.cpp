@@ -12,6 +12,8 @@ namespace {
 
 class ParameterSurroundings : public testing::Test {
 protected:
+    FlushRecord record; ///< outlives the values and so the flusher that writes to it
+    FlushRecord second;
     parameterTest::Set set;
     QM::QMParameterValues values{set, 48000.0};
 };
@@ -25,7 +27,6 @@ TEST_F(ParameterSurroundings, theStatusIsTheDefaultWithoutAFlusher) {
 }
 
 TEST_F(ParameterSurroundings, theStatusIsTheFlushersWhenThereIsOne) {
-    FlushRecord record;
     record.status = 77;
     values.setFlusher(std::make_unique<RecordingFlusher>(record));
     EXPECT_EQ(values.hostStatus(), 77u);
@@ -44,22 +45,19 @@ TEST_F(ParameterSurroundings, flushingWithoutAFlusherDoesNothing) {
 }
 
 TEST_F(ParameterSurroundings, aNewFlusherTakesThePlaceOfTheOldOne) {
-    FlushRecord first;
-    FlushRecord second;
-    values.setFlusher(std::make_unique<RecordingFlusher>(first));
+    values.setFlusher(std::make_unique<RecordingFlusher>(record));
     values.flush();
     values.setFlusher(std::make_unique<RecordingFlusher>(second));
-    EXPECT_EQ(first.destroyed, 1);
+    EXPECT_EQ(record.destroyed, 1);
     EXPECT_EQ(second.destroyed, 0);
     values.flush();
-    EXPECT_EQ(first.flushes, 1);
+    EXPECT_EQ(record.flushes, 1);
     EXPECT_EQ(second.flushes, 1);
     values.setFlusher(nullptr);
     EXPECT_EQ(second.destroyed, 1);
 }
 
 TEST_F(ParameterSurroundings, theFlusherGoesWithTheValues) {
-    FlushRecord record;
     {
         QM::QMParameterValues shortLived(set, 48000.0);
         shortLived.setFlusher(std::make_unique<RecordingFlusher>(record));
@@ -69,7 +67,6 @@ TEST_F(ParameterSurroundings, theFlusherGoesWithTheValues) {
 }
 
 TEST_F(ParameterSurroundings, theFlusherGetsTheValuesObject) {
-    FlushRecord record;
     const QM::QMParameterValues* flushed = nullptr;
     record.whenFlushed = [&](QM::QMParameterValues& object) { flushed = &object; };
     values.setFlusher(std::make_unique<RecordingFlusher>(record));

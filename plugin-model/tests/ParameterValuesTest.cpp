@@ -20,6 +20,7 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 class ParameterValues : public testing::Test {
 protected:
+    parameterTest::FlushRecord record; ///< outlives the values and so the flusher that writes to it
     parameterTest::Set set;
     QM::QMParameterValues values{set, 48000.0};
 };
@@ -119,7 +120,6 @@ TEST_F(ParameterValues, storingTellsNobody) {
     parameterTest::Events events;
     parameterTest::RecordingListener listener("a", events);
     values.addListener(listener);
-    parameterTest::FlushRecord record;
     values.setFlusher(std::make_unique<parameterTest::RecordingFlusher>(record));
 
     EXPECT_TRUE(values.storeValue(levelIndex, 1.0));
@@ -129,7 +129,6 @@ TEST_F(ParameterValues, storingTellsNobody) {
 }
 
 TEST_F(ParameterValues, storeAndFlushFlushesEvenWithoutAChange) {
-    parameterTest::FlushRecord record;
     values.setFlusher(std::make_unique<parameterTest::RecordingFlusher>(record));
     values.storeAndFlush(levelIndex, 1.0);
     EXPECT_EQ(values.getValue(levelIndex), 1.0);
@@ -139,7 +138,6 @@ TEST_F(ParameterValues, storeAndFlushFlushesEvenWithoutAChange) {
 }
 
 TEST_F(ParameterValues, severalAreStoredWithOneFlush) {
-    parameterTest::FlushRecord record;
     values.setFlusher(std::make_unique<parameterTest::RecordingFlusher>(record));
     const std::int32_t indices[] = {timeIndex, -1, levelIndex, 99, timeIndex};
     const double stored[] = {1000.0, 1.0, notANumber, 1.0, 20.0};
@@ -154,7 +152,6 @@ TEST_F(ParameterValues, severalAreStoredWithOneFlush) {
 TEST_F(ParameterValues, restoringAllChangesNothingAndFlushesOnce) {
     values.storeValue(levelIndex, 1.0);
     values.clearChangedFlag(levelIndex);
-    parameterTest::FlushRecord record;
     values.setFlusher(std::make_unique<parameterTest::RecordingFlusher>(record));
 
     values.restoreAllAndFlush();

@@ -90,8 +90,7 @@ TEST_F(ParameterTouch, everyListenerIsToldInOrder) {
     values.addListener(b);
     values.beginTouch(levelIndex);
     values.endTouch(levelIndex);
-    EXPECT_THAT(events,
-                ElementsAre("a touched 0", "b touched 0", "a released 0", "b released 0"));
+    EXPECT_THAT(events, ElementsAre("a touched 0", "b touched 0", "a released 0", "b released 0"));
 }
 
 TEST_F(ParameterTouch, indicesOutOfRangeAreIgnored) {

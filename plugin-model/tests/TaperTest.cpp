@@ -88,7 +88,8 @@ TEST(ParameterTaper, aRangeWithoutExtentIsAtZero) {
 }
 
 TEST(ParameterTaper, aLinearPositionIsRoundedToWholeStepsHalvesAwayFromZero) {
-    // 16 n - 8 is exact for these n: 0.25, 0.125, -0.25, -0.125, 0.75 and -0.75 before the rounding.
+    // 16 n - 8 is exact for these n: 0.25, 0.125, -0.25, -0.125, 0.75 and -0.75 before the
+    // rounding.
     EXPECT_EQ(normalisedToPlain(linear, 0.515625), 0.5);
     EXPECT_EQ(normalisedToPlain(linear, 0.5078125), 0.0);
     EXPECT_EQ(normalisedToPlain(linear, 0.484375), -0.5);

@@ -30,15 +30,20 @@ public:
         pushedLengths.push_back(packet.length);
         onPush();
     }
+
     void handleMessage(const Packet& packet) override { messageLengths.push_back(packet.length); }
+
     [[nodiscard]] std::uint32_t analysisWordCount() const override { return analysisWords; }
+
     [[nodiscard]] std::int32_t meterRecordCount() const override {
         return meterCount >= 0 ? meterCount : NoxPlugIn::meterRecordCount();
     }
+
     void receiveAnalysis(const Packet& packet) override {
         received.resize(packet.wordCount());
         std::memcpy(received.data(), packet.data, received.size() * sizeof(float));
     }
+
     std::vector<NoxMeterRecord>& records() { return meterRecords(); }
 
     std::vector<std::uint64_t> pushedLengths;
@@ -66,10 +71,12 @@ public:
         packets.push_back(std::make_unique<Packet>(Packet::coefficientKind, 8));
         packets.push_back(std::make_unique<Packet>(Packet::messageKind, 12));
     }
+
     void generateSharcPackets(PacketList& packets) override {
         releasePackets(packets);
         packets.push_back(std::make_unique<Packet>(Packet::messageKind, 4));
     }
+
     void setSampleRate(double rate, QM::QMParameterChanges& changes) override {
         QMParameterValues::setSampleRate(rate, changes);
         if (rateMovesAParameter)
@@ -95,6 +102,7 @@ inline constexpr std::array<NoxMeterDescriptor, 2> testMeters{{
     {"First",  fourCharCode("mtr1"), 0, 1},
     {"Second", fourCharCode("mtr2"), 0, 6},
 }};
+
 // clang-format on
 
 class TestSet : public QM::QMParameterSet {
@@ -122,13 +130,16 @@ public:
     std::unique_ptr<INoxPlugIn> createInstance() override {
         return std::make_unique<TestPlugIn>(*this, nullptr, environment());
     }
+
     std::unique_ptr<QM::QMParameterValues> createParameterValues() override {
         return kind == TestTypeKind::complete ? NoxPlugInType::createParameterValues() : nullptr;
     }
+
     void forgetInstance(const INoxPlugIn& instance) override {
         onForget(instance);
         NoxPlugInType::forgetInstance(instance);
     }
+
     std::unique_ptr<INoxPlugInImplementation> createImplementation(std::int32_t isa) override {
         implementationsAsked.push_back(isa);
         return isa == 3 ? std::make_unique<INoxPlugInImplementation>() : nullptr;
@@ -158,8 +169,11 @@ public:
         , fields(std::move(typeFields)) {}
 
     [[nodiscard]] FourCharCode manufacturerCode() const override { return fourCharCode("TMkr"); }
+
     [[nodiscard]] std::string manufacturerName() const override { return "Test Maker"; }
+
     [[nodiscard]] std::vector<std::string> names() const override { return {"One", "Two"}; }
+
     TestType& testType(std::int32_t index = 0) {
         return dynamic_cast<TestType&>(*typeOfIndex(index));
     }

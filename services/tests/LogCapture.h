@@ -13,8 +13,7 @@
 #include <string>
 
 /// "2026-11-21 10:15:30.000123: "
-inline const char* const logPrefixPattern =
-    R"(\d{4}-\d{2}-\d{2} \d{2}:\d{2}:\d{2}\.\d{6}: )";
+inline const char* const logPrefixPattern = R"(\d{4}-\d{2}-\d{2} \d{2}:\d{2}:\d{2}\.\d{6}: )";
 
 /// The text with every time prefix taken out.
 inline std::string withoutLogPrefixes(const std::string& text) {

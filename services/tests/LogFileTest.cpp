@@ -99,8 +99,7 @@ TEST_F(LogFileTest, everyMessageIsPrefixedWithTheLocalTimeInMicroseconds) {
 
     const std::string line = closedContent();
     std::smatch parts;
-    const std::regex form(
-        R"((\d{4})-(\d{2})-(\d{2}) (\d{2}):(\d{2}):(\d{2})\.(\d{6}): message\n)");
+    const std::regex form(R"((\d{4})-(\d{2})-(\d{2}) (\d{2}):(\d{2}):(\d{2})\.(\d{6}): message\n)");
     ASSERT_TRUE(std::regex_match(line, parts, form)) << line;
     std::tm fields{};
     fields.tm_year = std::stoi(parts[1]) - 1900;
@@ -118,8 +117,7 @@ TEST_F(LogFileTest, everyMessageIsPrefixedWithTheLocalTimeInMicroseconds) {
 TEST_F(LogFileTest, aMessageGetsNoLineEndOfTheLogs) {
     log->write(1, "one ");
     log->write(1, "two");
-    const std::string expected =
-        std::string(logPrefixPattern) + "one " + logPrefixPattern + "two";
+    const std::string expected = std::string(logPrefixPattern) + "one " + logPrefixPattern + "two";
     const std::string content = closedContent();
     EXPECT_TRUE(std::regex_match(content, std::regex(expected))) << content;
 }
@@ -144,7 +142,8 @@ TEST_F(LogFileTest, suppressionsAreCounted) {
     log->resumeTimestamps();
     log->write(1, "c\n");
     const std::string content = closedContent();
-    EXPECT_TRUE(std::regex_match(content, std::regex("a\nb\n" + std::string(logPrefixPattern) + "c\n")))
+    EXPECT_TRUE(
+        std::regex_match(content, std::regex("a\nb\n" + std::string(logPrefixPattern) + "c\n")))
         << content;
 }
 

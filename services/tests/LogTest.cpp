@@ -53,11 +53,10 @@ TEST_F(DumpPacketTest, writesSixteenBytesALineAndTimesOnlyTheFirstAndTheLastLine
     const LogCapture capture(3, log);
     QM::dumpPacket(log, counting(20).data(), 20);
     const std::string prefix = logPrefixPattern;
-    const std::string expected =
-        prefix + "Packet Len: 20\n" +
-        "0000: 00 01 02 03 04 05 06 07 08 09 0a 0b 0c 0d 0e 0f \n"
-        "0010: 10 11 12 13 \n" +
-        prefix + "\n";
+    const std::string expected = prefix + "Packet Len: 20\n" +
+                                 "0000: 00 01 02 03 04 05 06 07 08 09 0a 0b 0c 0d 0e 0f \n"
+                                 "0010: 10 11 12 13 \n" +
+                                 prefix + "\n";
     EXPECT_TRUE(std::regex_match(capture.text(), std::regex(expected))) << capture.text();
 }
 
@@ -90,6 +89,7 @@ TEST_F(DumpPacketTest, isAtLevelThreeAndLeavesTheTimestampsOn) {
     EXPECT_EQ(capture.text(), "");
     EXPECT_FALSE(log.hasLogged());
     log.write(1, "after\n");
-    EXPECT_TRUE(std::regex_match(capture.text(), std::regex(std::string(logPrefixPattern) + "after\n")))
+    EXPECT_TRUE(
+        std::regex_match(capture.text(), std::regex(std::string(logPrefixPattern) + "after\n")))
         << capture.text();
 }

@@ -28,6 +28,7 @@ public:
     TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
     [[nodiscard]] std::filesystem::path operator/(const std::string& name) const {
         return path_ / name;
     }

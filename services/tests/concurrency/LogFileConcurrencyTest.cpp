@@ -21,7 +21,8 @@ constexpr int threadCount = 4;
 constexpr int messagesPerThread = 500;
 
 /// Runs the work on every thread at once.
-template <typename Work> void onAllThreads(Work work) {
+template <typename Work>
+void onAllThreads(Work work) {
     std::atomic<int> ready{0};
     std::vector<std::thread> threads;
     for (int t = 0; t < threadCount; ++t) {
