@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/brolt-host/CommandLine.h"
+
+#include "brolt/model/QMBrolt_ProductCodes.h"
+#include "tools/brolt-host/HostError.h"
+#include "tools/brolt-host/ParameterValueText.h"
+#include "tools/brolt-host/Utf8.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cmath>
+
+namespace {
+
+constexpr std::int32_t largestBlock = 1 << 20;
+
+/// The render command's options as texts, which is what messages quote.
+struct RenderTexts {
+    std::vector<std::string> files;
+    std::vector<std::string> settings;
+    std::string outputFolder;
+    std::string automation;
+    std::string block = "512";
+    std::string channels;
+    std::string bits = "float";
+    std::string trace;
+    std::string plot;
+    std::string format = "model";
+    bool quiet = false;
+};
+
+void addRender(CLI::App& app, RenderTexts& texts) {
+    CLI::App* const render = app.add_subcommand("render", "Render audio files through the plug-in");
+    render->footer(
+        "  brolt-host render [OPTIONS] IN OUT\n"
+        "  brolt-host render [OPTIONS] IN... --out-dir FOLDER\n\n"
+        "A file with one channel runs the mono type, one with two the stereo type; the output has\n"
+        "the input's length and sample rate. Output files appear complete or not at all.\n\n"
+        "FILE of --automate: lines 'seconds ID value'; # begins a comment. A change takes effect "
+        "at\n"
+        "the start of the block that contains it.");
+    render->add_option("FILES", texts.files, "Input and output file; only inputs with --out-dir")
+        ->required();
+    render
+        ->add_option("--out-dir", texts.outputFolder,
+                     "Write each input's result into FOLDER, as NAME.wav")
+        ->type_name("FOLDER");
+    render
+        ->add_option("--set", texts.settings,
+                     "Set a parameter (see 'params'), in display units or by value name; may be "
+                     "repeated")
+        ->type_name("ID=VALUE")
+        ->allow_extra_args(false)
+        ->expected(1)
+        ->take_all();
+    render->add_option("--automate", texts.automation, "Change parameters over time")
+        ->type_name("FILE");
+    render->add_option("--block", texts.block, "Frames a block (512)")->type_name("N");
+    render
+        ->add_option("--channels", texts.channels,
+                     "1 or 2: the type to run, whatever the file. One channel goes to both sides, "
+                     "two are averaged for one")
+        ->type_name("N");
+    render->add_option("--bits", texts.bits, "Samples of the output: float (default), 24 or 16")
+        ->type_name("BITS");
+    render
+        ->add_option("--trace-records", texts.trace,
+                     "Write each coefficient record the processor starts to use, and when")
+        ->type_name("FILE");
+    render->add_option("--plot", texts.plot, "Draw pitch and levels over time")
+        ->type_name("FILE.png");
+    render
+        ->add_option("--format", texts.format, "What to drive: model, the plug-in model (default)")
+        ->type_name("FORM");
+    render->add_flag("--quiet", texts.quiet, "No progress and no report; problems are still told");
+}
+
+std::optional<std::filesystem::path> optionalPath(const std::string& text) {
+    if (text.empty())
+        return std::nullopt;
+    return pathFromUtf8(text);
+}
+
+std::int32_t parseBlockSize(const std::string& text) {
+    const std::optional<double> number = parseNumber(text);
+    if (!number || *number < 1.0 || *number > largestBlock || *number != std::floor(*number)) {
+        throw HostError("--block " + text + ": must be a whole number from 1 to " +
+                        std::to_string(largestBlock));
+    }
+    return static_cast<std::int32_t>(*number);
+}
+
+std::optional<int> parseChannels(const std::string& text) {
+    if (text.empty())
+        return std::nullopt;
+    if (text != "1" && text != "2")
+        throw HostError("--channels " + text + ": must be 1 or 2");
+    return text == "1" ? 1 : 2;
+}
+
+SampleEncoding parseEncoding(const std::string& text) {
+    if (text == "float")
+        return SampleEncoding::float32;
+    if (text == "24")
+        return SampleEncoding::pcm24;
+    if (text == "16")
+        return SampleEncoding::pcm16;
+    throw HostError("--bits " + text + ": must be float, 24 or 16");
+}
+
+void checkFormat(const std::string& text) {
+    if (text == "model")
+        return;
+    if (text == "vst3" || text == "vst2")
+        throw HostError("--format " + text + ": is not available in this build");
+    throw HostError("--format " + text + ": must be model");
+}
+
+RenderOptions renderOptions(const RenderTexts& texts) {
+    checkFormat(texts.format);
+    RenderOptions options;
+    for (const std::string& file : texts.files)
+        options.files.push_back(pathFromUtf8(file));
+    options.outputFolder = optionalPath(texts.outputFolder);
+    options.settings = texts.settings;
+    options.automation = optionalPath(texts.automation);
+    options.blockSize = parseBlockSize(texts.block);
+    options.channels = parseChannels(texts.channels);
+    options.encoding = parseEncoding(texts.bits);
+    options.trace = optionalPath(texts.trace);
+    options.plot = optionalPath(texts.plot);
+    options.quiet = texts.quiet;
+
+    constexpr std::size_t inputAndOutput = 2;
+    if (!options.outputFolder && options.files.size() != inputAndOutput)
+        throw HostError("render: give one input and one output file, or --out-dir FOLDER");
+    if (options.outputFolder && options.files.size() > 1 && (options.trace || options.plot))
+        throw HostError("render: --trace-records and --plot are for one input file at a time");
+    return options;
+}
+
+/// The library would only say that a command is missing.
+void checkCommand(const CLI::App& app, const std::vector<std::string>& arguments) {
+    if (arguments.empty() || arguments[0].starts_with('-'))
+        return;
+    for (const CLI::App* const command : app.get_subcommands(nullptr)) {
+        if (command->check_name(arguments[0]))
+            return;
+    }
+    throw HostError("unknown command '" + arguments[0] + "' (--help tells more)");
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
+    CLI::App app("Runs the QM Brolt plug-in over audio files and tells about it.", "brolt-host");
+    app.set_version_flag("--version", QMBrolt::versionText);
+    app.require_subcommand(1);
+    RenderTexts texts;
+    addRender(app, texts);
+    ParamsOptions params;
+    CLI::App* const paramsCommand =
+        app.add_subcommand("params", "List the parameters: identifiers, ranges, defaults, texts");
+    paramsCommand->add_flag("--tsv", params.tabSeparated,
+                            "For programs: tabulators between columns");
+    const CLI::App* const infoCommand = app.add_subcommand("info", "Tell what the plug-in is");
+
+    checkCommand(app, arguments);
+    try {
+        // The library takes them from the back.
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::CallForHelp&) {
+        return TextRequest{app.help()};
+    } catch (const CLI::CallForVersion&) {
+        return TextRequest{"brolt-host " + std::string(QMBrolt::versionText) + "\n"};
+    } catch (const CLI::ParseError& error) {
+        throw HostError(std::string(error.what()) + " (--help tells more)");
+    }
+    if (paramsCommand->parsed())
+        return params;
+    if (infoCommand->parsed())
+        return InfoOptions{};
+    return renderOptions(texts);
+}

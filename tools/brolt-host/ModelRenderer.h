@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Drives an instance through the plug-in model itself: no plug-in interface in between, so this is
+// the plainest host there can be.
+
+#pragma once
+
+#include "QMShell/hosting/QMShellPlugInProcessingHost.h"
+#include "tools/brolt-host/ParameterValueText.h"
+#include "tools/brolt-host/ProductModel.h"
+#include "tools/brolt-host/Renderer.h"
+
+#include <memory>
+#include <vector>
+
+class QMBrolt_PlugIn;
+
+class ModelRenderer : public Renderer {
+public:
+    /// An instance for 1 or 2 channels with the settings made. They are made before the instance
+    /// gets its host and so its way to the processor: it then begins with one single record, and
+    /// the first block already works with it.
+    ModelRenderer(int channels, double sampleRate, std::int32_t blockSize,
+                  const std::vector<ParameterSetting>& settings);
+
+    ~ModelRenderer() override;
+
+    void setParameter(std::int32_t index, double value) override;
+    [[nodiscard]] double parameter(std::int32_t index) const override;
+    void process(float** inputs, float** outputs, std::int32_t frames) override;
+    [[nodiscard]] const Coefficients* recordInUse() const override;
+    OscillatorReading readOscillators() override;
+
+private:
+    ProductModel product;
+    QMShellPlugInProcessingHost host;
+    std::unique_ptr<INoxPlugIn> instance;
+    const QMBrolt_PlugIn* brolt;
+    int channelCount;
+};

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Something that runs an instance of the product over audio: what the render command knows of the
+// form (plug-in model or plug-in interface) in which it drives the product.
+
+#pragma once
+
+#include "brolt/signal/Coefficients.h"
+
+#include <array>
+#include <cstdint>
+
+/// What the oscillators do at the end of the last block.
+struct OscillatorReading {
+    std::array<double, 2> frequency; ///< Hz, as it sounds
+    std::array<double, 2> level;     ///< level detector, linear; 0 while the oscillator is off
+};
+
+/// One thread drives a renderer and plays the parts of control thread and audio thread in turn.
+class Renderer {
+public:
+    Renderer() = default;
+    virtual ~Renderer() = default;
+    Renderer(const Renderer&) = delete;
+    Renderer& operator=(const Renderer&) = delete;
+
+    /// Changes one parameter (by index, display units), as one change of its own. The next block
+    /// works with it, or one of the blocks after it when there are many changes at once.
+    virtual void setParameter(std::int32_t index, double value) = 0;
+
+    /// Display units.
+    [[nodiscard]] virtual double parameter(std::int32_t index) const = 0;
+
+    /// Runs one block of at most the announced block size. An output may be its own input.
+    virtual void process(float** inputs, float** outputs, std::int32_t frames) = 0;
+
+    /// The record that the last block used, or null before the first block and where the product is
+    /// driven in a form that does not show it. It stays until the next block.
+    [[nodiscard]] virtual const Coefficients* recordInUse() const = 0;
+
+    virtual OscillatorReading readOscillators() = 0;
+};

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/brolt-host/Utf8.h"
+
+#ifdef _WIN32
+#    include <windows.h>
+
+#    include <shellapi.h>
+#endif
+
+std::vector<std::string> utf8Arguments(int argc, const char* const* argv) {
+    std::vector<std::string> arguments;
+#ifdef _WIN32
+    static_cast<void>(argc);
+    static_cast<void>(argv);
+    int count = 0;
+    wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
+    for (int i = 1; wide != nullptr && i < count; ++i)
+        arguments.push_back(utf8FromPath(std::filesystem::path(wide[i])));
+    LocalFree(wide);
+#else
+    for (int i = 1; i < argc; ++i)
+        arguments.emplace_back(argv[i]);
+#endif
+    return arguments;
+}
+
+std::filesystem::path pathFromUtf8(const std::string& text) {
+    return {std::u8string(text.begin(), text.end())};
+}
+
+std::string utf8FromPath(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
