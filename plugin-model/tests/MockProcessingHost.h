@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A processing host that records every call an instance makes. By itself it has a runtime
+// A processing host that records the calls an instance makes. By itself it has a runtime
 // architecture, a rate and memory to give, and answers 0 to everything else.
 #pragma once
 
 #include "plugin-model/INoxPlugIn.h"
-#include "plugin-model/INoxPlugInProcessingHost.h"
+#include "plugin-model/tests/StubProcessingHost.h"
 
 #include <gmock/gmock.h>
 
 #include <memory>
 #include <vector>
 
-class MockProcessingHost : public INoxPlugInProcessingHost {
+class MockProcessingHost : public StubProcessingHost {
 public:
     explicit MockProcessingHost(NoxRuntimeArchitecture architecture = NoxArchitecture::native,
                                 double rate = 44100.0) {
@@ -26,30 +26,11 @@ public:
         });
     }
 
-    MOCK_METHOD(const char*, className, (), (const, override));
-    MOCK_METHOD(const char*, hostLabel, (), (const, override));
-    MOCK_METHOD(void, setEnvironment, (INoxPlugInEnvironment*), (override));
-    MOCK_METHOD(INoxPlugInEnvironment*, environment, (), (const, override));
     MOCK_METHOD(NoxRuntimeArchitecture, runtimeArchitecture, (), (const, override));
     MOCK_METHOD(std::uint32_t, hostWord, (), (const, override));
-    MOCK_METHOD(void, setHostFlag, (), (override));
-    MOCK_METHOD(void, clearHostFlag, (), (override));
-    MOCK_METHOD(bool, hostFlag, (), (const, override));
-    MOCK_METHOD(void, beginNotifications, (), (override));
-    MOCK_METHOD(void, endNotifications, (), (override));
-    MOCK_METHOD(void, postNotification, (INoxPlugInNotificationTarget&, std::uint64_t), (override));
-    MOCK_METHOD(void, setSampleRate, (const double*), (override));
     MOCK_METHOD(double, sampleRate, (), (const, override));
-    MOCK_METHOD(void, setBlockSize, (std::int32_t), (override));
-    MOCK_METHOD(std::int32_t, blockSize, (), (const, override));
-    MOCK_METHOD(float*, scratchBufferA, (), (override));
-    MOCK_METHOD(float*, scratchBufferB, (), (override));
     MOCK_METHOD(NoxResult, instantiate, (INoxPlugIn&), (override));
-    MOCK_METHOD(NoxResult, testInstantiatePlugIn, (INoxPlugIn&), (override));
     MOCK_METHOD(NoxResult, removePlugIn, (INoxPlugIn*), (override));
-    MOCK_METHOD(std::int32_t, slotCount, (), (const, override));
-    MOCK_METHOD(const NoxSlotRecord*, slotInfo, (std::int32_t), (const, override));
-    MOCK_METHOD(INoxPlugIn*, plugInAt, (std::int32_t), (const, override));
     MOCK_METHOD(std::int32_t, defaultInputSlot, (std::int32_t), (const, override));
     MOCK_METHOD(std::int32_t, defaultOutputSlot, (std::int32_t), (const, override));
     MOCK_METHOD(void*, allocateRemoteBlock, (std::size_t, const char*), (override));
@@ -70,7 +51,6 @@ public:
                 (override));
     MOCK_METHOD(NoxResult, fetchInputCopy,
                 (INoxPlugIn&, std::uint64_t, std::uint32_t, std::uint32_t, void*), (override));
-    MOCK_METHOD(NoxResult, fetchAnalysisData, (INoxPlugIn&, std::uint64_t, void*), (override));
 
 private:
     std::vector<std::unique_ptr<char>> blocks;

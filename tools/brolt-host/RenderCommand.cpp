@@ -39,6 +39,10 @@ void checkOutputsDiffer(const std::vector<RenderFiles>& all) {
         }
     };
     for (const RenderFiles& files : all) {
+        for (const auto& extra : {files.trace, files.plot}) {
+            if (extra && comparable(*extra) == comparable(files.input))
+                throw HostError::ofFile(*extra, "is the input file");
+        }
         claim(files.output, files.input);
         claim(files.trace, "--trace-records");
         claim(files.plot, "--plot");

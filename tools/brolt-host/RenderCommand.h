@@ -7,8 +7,8 @@
 #include "tools/brolt-host/CommandLine.h"
 #include "tools/brolt-host/RenderPlan.h"
 
-/// Which files to make of which. Throws HostError when the output folder is none, or two results
-/// would be one file. [message thread]
+/// Which files to make of which. Throws HostError when the output folder is none, when two
+/// results would be one file or one would take the place of an input. [message thread]
 std::vector<RenderFiles> renderFilesOf(const RenderOptions& options);
 
 /// Renders every file; one that fails is told and does not keep the others back. Answers the

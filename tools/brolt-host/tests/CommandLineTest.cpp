@@ -128,6 +128,13 @@ TEST(RenderFiles, aTraceOrPlotInPlaceOfTheResultIsRefused) {
     EXPECT_THAT(errorOf([&] { renderFilesOf(options); }), HasSubstr("would be written twice"));
 }
 
+TEST(RenderFiles, aTraceOrPlotInPlaceOfTheInputIsRefused) {
+    RenderOptions options;
+    options.files = {"in.wav", "out.wav"};
+    options.trace = "./in.wav";
+    EXPECT_EQ(errorOf([&] { renderFilesOf(options); }), "./in.wav: is the input file");
+}
+
 TEST(RenderFiles, aMissingOutputFolderIsRefused) {
     RenderOptions options;
     options.files = {"in.wav"};
