@@ -11,7 +11,6 @@
 
 using ::testing::_;
 using ::testing::InSequence;
-using ::testing::NiceMock;
 using ::testing::Pointee;
 using ::testing::Ref;
 using ::testing::Return;
@@ -23,7 +22,7 @@ constexpr std::uint64_t id = 0x1122334455667788u;
 class IOConnectionControllerTest : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    NiceMock<MockProcessingHost> host{NoxArchitecture::nativeUndelivered};
+    NiceProcessingHost host{NoxArchitecture::nativeUndelivered};
     TestPlugIn plugIn{group.testType(), nullptr, nullptr};
     DspIOConnectionController dsp{plugIn};
     QMSharcIOConnectionController sharc{plugIn, 1, 2, 3};
@@ -218,7 +217,7 @@ TEST_F(IOConnectionControllerTest, theDspControllerTellsNothingOfConnectionsAndC
 }
 
 TEST_F(IOConnectionControllerTest, anInstanceOnASharcHostSendsItsConnections) {
-    NiceMock<MockProcessingHost> sharcHost(NoxArchitecture::sharc);
+    NiceProcessingHost sharcHost(NoxArchitecture::sharc);
     ON_CALL(sharcHost, defaultOutputSlot).WillByDefault(Return(5));
     plugIn.setRemoteInstanceID(id);
     plugIn.setProcessingHost(&sharcHost);

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 using ::testing::_;
-using ::testing::NiceMock;
 using ::testing::Return;
 using ::testing::StrictMock;
 
@@ -28,7 +27,7 @@ public:
 class NoxPlugInConnections : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    NiceMock<MockProcessingHost> host;
+    NiceProcessingHost host;
     TestPlugIn plugIn{group.testType(), nullptr, nullptr};
     StrictMock<MockConnectionController>* controller = nullptr;
 

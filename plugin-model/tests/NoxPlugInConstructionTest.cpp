@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 using ::testing::_;
-using ::testing::NiceMock;
 using ::testing::Pointee;
 using ::testing::Ref;
 using ::testing::StrictMock;
@@ -51,7 +50,7 @@ TEST(NoxPlugInConstruction, theBooksAreEmpty) {
 
 TEST(NoxPlugInConstruction, whatCanBeSetIsAnswered) {
     TestTypeGroup group;
-    NiceMock<MockEnvironment> environment;
+    NiceEnvironment environment;
     TestPlugIn plugIn(group.testType(), nullptr, nullptr);
     plugIn.setEnvironment(&environment);
     plugIn.setRemoteInstanceID(0x123456789ABCDEFu);
@@ -95,7 +94,7 @@ TEST(NoxPlugInConstruction, theTextsComeFromTheTypeAndBelongToTheInstance) {
 
 TEST(NoxPlugInConstruction, aHostGivesItsRate) {
     TestTypeGroup group;
-    NiceMock<MockProcessingHost> host(NoxArchitecture::native, 96000.0);
+    NiceProcessingHost host(NoxArchitecture::native, 96000.0);
     const TestPlugIn plugIn(group.testType(), &host, nullptr);
     EXPECT_EQ(plugIn.sampleRate(), 96000.0);
     EXPECT_EQ(plugIn.parameterValues()->sampleRate(), 96000.0);
@@ -140,7 +139,7 @@ TEST(NoxPlugInConstruction, aTypeWithoutASetHasNoParameters) {
 
 TEST(NoxPlugInConstruction, theInstanceReplaysTheValuesRecordedChanges) {
     TestTypeGroup group;
-    NiceMock<MockEnvironment> environment;
+    NiceEnvironment environment;
     TestPlugIn plugIn(group.testType(), nullptr, &environment);
     EXPECT_CALL(environment, parameterChanged(Ref(plugIn), 0, 7.0, 0));
     plugIn.parameterValues()->replayParameterValue(0, 7.0);

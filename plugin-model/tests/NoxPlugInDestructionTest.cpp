@@ -9,14 +9,13 @@
 #include <memory>
 
 using ::testing::InSequence;
-using ::testing::NiceMock;
 using ::testing::Ref;
 
 TEST(NoxPlugInDestruction, environmentHostAndTypeHearOfItInThisOrder) {
     TestTypeGroup group;
     TestType& type = group.testType();
-    NiceMock<MockEnvironment> environment;
-    NiceMock<MockProcessingHost> host;
+    NiceEnvironment environment;
+    NiceProcessingHost host;
     ::testing::MockFunction<void(const INoxPlugIn&)> forgotten;
     type.onForget = forgotten.AsStdFunction();
     auto plugIn = std::make_unique<TestPlugIn>(type, &host, &environment);
@@ -31,7 +30,7 @@ TEST(NoxPlugInDestruction, environmentHostAndTypeHearOfItInThisOrder) {
 
 TEST(NoxPlugInDestruction, theValuesOutliveTheFarewells) {
     TestTypeGroup group;
-    NiceMock<MockEnvironment> environment;
+    NiceEnvironment environment;
     auto plugIn = std::make_unique<TestPlugIn>(group.testType(), nullptr, &environment);
     ::testing::MockFunction<void()> valuesGone;
     dynamic_cast<TestValues&>(*plugIn->parameterValues()).onDestruction =
@@ -46,7 +45,7 @@ TEST(NoxPlugInDestruction, theValuesOutliveTheFarewells) {
 
 TEST(NoxPlugInDestruction, buffersThatTheHostStillKeepsAreFreed) {
     TestTypeGroup group;
-    NiceMock<MockProcessingHost> host;
+    NiceProcessingHost host;
     auto plugIn = std::make_unique<TestPlugIn>(group.testType(), &host, nullptr);
     void* left = plugIn->allocateRemoteBuffer(16, "left");
     const InSequence inOrder;

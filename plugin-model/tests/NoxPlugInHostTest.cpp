@@ -12,7 +12,6 @@
 using ::testing::_;
 using ::testing::InSequence;
 using ::testing::MockFunction;
-using ::testing::NiceMock;
 using ::testing::NotNull;
 using ::testing::Pointee;
 using ::testing::Ref;
@@ -58,7 +57,7 @@ constexpr std::array<Row, 19> rows{{
 class NoxPlugInArchitecture : public ::testing::TestWithParam<Row> {
 protected:
     TestTypeGroup group;
-    NiceMock<MockProcessingHost> host{GetParam().architecture};
+    NiceProcessingHost host{GetParam().architecture};
     TestPlugIn plugIn{group.testType(), nullptr, nullptr};
 };
 
@@ -130,9 +129,9 @@ namespace {
 class NoxPlugInHost : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    NiceMock<MockEnvironment> environment;
-    NiceMock<MockProcessingHost> first{NoxArchitecture::native, 48000.0};
-    NiceMock<MockProcessingHost> second{NoxArchitecture::dspMac, 96000.0};
+    NiceEnvironment environment;
+    NiceProcessingHost first{NoxArchitecture::native, 48000.0};
+    NiceProcessingHost second{NoxArchitecture::dspMac, 96000.0};
     TestPlugIn plugIn{group.testType(), nullptr, &environment};
 };
 

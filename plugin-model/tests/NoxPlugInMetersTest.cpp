@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 using ::testing::_;
-using ::testing::NiceMock;
 using ::testing::Ref;
 
 namespace {
@@ -15,7 +14,7 @@ namespace {
 class NoxPlugInMeters : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    NiceMock<MockProcessingHost> host{NoxArchitecture::nativeUndelivered};
+    NiceProcessingHost host{NoxArchitecture::nativeUndelivered};
     TestPlugIn plugIn{group.testType(), nullptr, nullptr};
 };
 

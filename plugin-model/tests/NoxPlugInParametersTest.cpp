@@ -11,15 +11,14 @@
 #include <stdexcept>
 
 using ::testing::InSequence;
-using ::testing::NiceMock;
 using ::testing::Ref;
 
 namespace {
 
 class NoxPlugInParameters : public ::testing::Test {
 protected:
-    NiceMock<MockEnvironment> environment;
-    NiceMock<MockProcessingHost> host;
+    NiceEnvironment environment;
+    NiceProcessingHost host;
     TestTypeGroup group{&environment};
     TestPlugIn plugIn{group.testType(), nullptr, &environment};
 

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 using ::testing::_;
-using ::testing::NiceMock;
 using ::testing::Ref;
 using ::testing::Return;
 using ::testing::StrEq;
@@ -16,7 +15,7 @@ namespace {
 class NoxPlugInRemoteMemory : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    NiceMock<MockProcessingHost> host;
+    NiceProcessingHost host;
     TestPlugIn plugIn{group.testType(), nullptr, nullptr};
     int word = 0;
 

@@ -9,12 +9,11 @@
 
 #include <memory>
 
-using ::testing::NiceMock;
 using ::testing::Ref;
 using ::testing::Return;
 
 TEST(NoxPlugInTypeInstances, theBaseCreatesAPlainInstanceWithoutHostInTheTypesEnvironment) {
-    NiceMock<MockEnvironment> environment;
+    NiceEnvironment environment;
     TestTypeGroup group(&environment);
     const std::unique_ptr<INoxPlugIn> plugIn = group.testType().NoxPlugInType::createInstance();
     ASSERT_NE(plugIn, nullptr);
@@ -56,7 +55,7 @@ class NoxPlugInTypeInstantiation : public ::testing::Test {
 protected:
     TestTypeGroup group;
     TestType& type = group.testType();
-    NiceMock<MockProcessingHost> host;
+    NiceProcessingHost host;
     std::unique_ptr<INoxPlugIn> plugIn = type.createAndRecordInstance();
 };
 

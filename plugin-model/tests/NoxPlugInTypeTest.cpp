@@ -8,7 +8,6 @@
 
 #include <stdexcept>
 
-using ::testing::NiceMock;
 
 TEST(NoxPlugInTypeGroup, answersNeutrallyOutOfRange) {
     TestTypeGroup group;
@@ -25,7 +24,7 @@ TEST(NoxPlugInTypeGroup, answersNeutrallyOutOfRange) {
 }
 
 TEST(NoxPlugInTypeGroup, createsEachTypeOnFirstRequestAndKeepsIt) {
-    NiceMock<MockEnvironment> environment;
+    NiceEnvironment environment;
     TestTypeGroup group(&environment);
     EXPECT_EQ(group.typesCreated, 0);
     INoxPlugInType* second = group.typeOfIndex(1);

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 using ::testing::Mock;
-using ::testing::NiceMock;
 using ::testing::Pointee;
 using ::testing::Ref;
 
@@ -16,7 +15,7 @@ namespace {
 /// An instance of a type that has a set and no values object.
 class NoxPlugInWithoutValues : public ::testing::Test {
 protected:
-    NiceMock<MockEnvironment> environment;
+    NiceEnvironment environment;
     TestTypeGroup group{&environment, TestTypeKind::withoutValues};
     TestPlugIn plugIn{group.testType(), nullptr, &environment};
 };
