@@ -15,7 +15,8 @@
 
 class MockProcessingHost : public StubProcessingHost {
 public:
-    MockProcessingHost(NoxRuntimeArchitecture architecture, double rate);
+    explicit MockProcessingHost(NoxRuntimeArchitecture architecture = NoxArchitecture::native,
+                                double rate = 44100.0);
     ~MockProcessingHost() override;
 
     MOCK_METHOD(NoxRuntimeArchitecture, runtimeArchitecture, (), (const, override));

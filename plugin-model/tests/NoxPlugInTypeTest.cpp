@@ -8,7 +8,6 @@
 
 #include <stdexcept>
 
-
 TEST(NoxPlugInTypeGroup, answersNeutrallyOutOfRange) {
     TestTypeGroup group;
     EXPECT_EQ(group.typeCount(), 2);

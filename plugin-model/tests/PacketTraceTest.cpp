@@ -33,7 +33,7 @@ protected:
     parameterTest::Set set;
     NiceMock<flusherTest::Values> values{set};
     NiceMock<flusherTest::PlugIn> plugIn;
-    NiceProcessingHost host;
+    NiceMock<MockProcessingHost> host;
 };
 
 constexpr const char* bothPackets = "Packet Len: 8\n"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // An instance that records what a processing host does to it. Its host stays null in its own books,
-// so that a host under test may end before it.
+// so that a host under test may end before it. Its mocks are compiled once, in its own .cpp file.
 #pragma once
 
 #include "plugin-model/ControlMessages.h"
@@ -9,12 +9,10 @@
 
 #include <gmock/gmock.h>
 
-#include <cstring>
-
 class MockHostedPlugIn : public NoxPlugIn {
 public:
-    explicit MockHostedPlugIn(TestTypeGroup& group)
-        : NoxPlugIn(group.testType(), nullptr, nullptr) {}
+    explicit MockHostedPlugIn(TestTypeGroup& group);
+    ~MockHostedPlugIn() override;
 
     MOCK_METHOD(void, setProcessingHost, (INoxPlugInProcessingHost*), (override));
     MOCK_METHOD(void, setSampleRate, (const double*), (override));
@@ -25,12 +23,12 @@ public:
     MOCK_METHOD(std::uint32_t, analysisWordCount, (), (const, override));
 };
 
+/// The one to use in tests: calls without an expectation are fine.
+class NiceHostedPlugIn : public ::testing::NiceMock<MockHostedPlugIn> {
+public:
+    explicit NiceHostedPlugIn(TestTypeGroup& group);
+    ~NiceHostedPlugIn() override;
+};
+
 /// The content of a message that carries a buffer.
-inline NoxBufferMessage bufferMessageOf(const Packet& packet) {
-    NoxBufferMessage message{};
-    EXPECT_NE(packet.kind, Packet::coefficientKind);
-    EXPECT_EQ(packet.length, sizeof message);
-    if (packet.length == sizeof message)
-        std::memcpy(&message, packet.data, sizeof message);
-    return message;
-}
+NoxBufferMessage bufferMessageOf(const Packet& packet);

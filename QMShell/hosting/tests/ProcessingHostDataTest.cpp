@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstring>
 #include <limits>
 
-using ::testing::NiceMock;
 using ::testing::Return;
 
 namespace {
@@ -18,7 +18,7 @@ constexpr std::size_t huge = std::numeric_limits<std::size_t>::max();
 class ProcessingHostData : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    NiceMock<MockHostedPlugIn> plugIn{group};
+    NiceHostedPlugIn plugIn{group};
     QMShellPlugInProcessingHost host;
     std::array<unsigned char, 16> data{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
 };

@@ -9,13 +9,12 @@
 #include <memory>
 
 using ::testing::InSequence;
-using ::testing::NiceMock;
 
 TEST(ProcessingHostEnd, tellsEverySlottedInstanceInSlotOrder) {
     TestTypeGroup group;
-    NiceMock<MockHostedPlugIn> first(group);
-    NiceMock<MockHostedPlugIn> second(group);
-    NiceMock<MockHostedPlugIn> third(group);
+    NiceHostedPlugIn first(group);
+    NiceHostedPlugIn second(group);
+    NiceHostedPlugIn third(group);
     auto host = std::make_unique<QMShellPlugInProcessingHost>();
     host->setSlotLimit(-1);
     for (MockHostedPlugIn* plugIn : {&first, &second, &third})

@@ -25,9 +25,9 @@ public:
 class ProcessingHostSlots : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    NiceMock<MockHostedPlugIn> first{group};
-    NiceMock<MockHostedPlugIn> second{group};
-    NiceMock<MockHostedPlugIn> third{group};
+    NiceHostedPlugIn first{group};
+    NiceHostedPlugIn second{group};
+    NiceHostedPlugIn third{group};
     NiceMock<HookedHost> host;
     void* hostAddress = static_cast<QMShellPlugInProcessingHost*>(&host);
 
@@ -149,7 +149,7 @@ TEST_F(ProcessingHostSlots, theFirstFreeSlotIsUsedAgain) {
     host.removePlugIn(&second);
     host.removePlugIn(&first);
     EXPECT_EQ(host.slotCount(), 1);
-    NiceMock<MockHostedPlugIn> fourth(group);
+    NiceHostedPlugIn fourth(group);
     EXPECT_CALL(host, attachHook(0, Ref(fourth)));
     EXPECT_CALL(host, attachHook(1, Ref(first)));
     EXPECT_EQ(host.instantiate(fourth), 0);

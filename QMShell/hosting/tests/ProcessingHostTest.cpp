@@ -2,13 +2,12 @@
 // The processing host by itself: fixed answers, notifications, rate, block size, scratch buffers.
 #include "QMShell/hosting/QMShellPlugInProcessingHost.h"
 #include "QMShell/hosting/tests/MockHostedPlugIn.h"
-#include "plugin-model/tests/MockEnvironment.h"
+#include "plugin-model/tests/StubEnvironment.h"
 
 #include <gtest/gtest.h>
 
 using ::testing::_;
 using ::testing::InSequence;
-using ::testing::NiceMock;
 using ::testing::Pointee;
 using ::testing::Ref;
 using ::testing::StrictMock;
@@ -27,7 +26,7 @@ TEST(ProcessingHost, hasFixedAnswers) {
 
 TEST(ProcessingHost, hasNothingToSendTo) {
     TestTypeGroup group;
-    NiceMock<MockHostedPlugIn> plugIn(group);
+    NiceHostedPlugIn plugIn(group);
     QMShellPlugInProcessingHost host;
     const std::uint32_t words[] = {1, 2};
     EXPECT_CALL(plugIn, handleMessage).Times(0);
@@ -37,8 +36,8 @@ TEST(ProcessingHost, hasNothingToSendTo) {
 }
 
 TEST(ProcessingHost, keepsItsFlagAndItsEnvironment) {
-    NiceMock<MockEnvironment> first;
-    NiceMock<MockEnvironment> second;
+    StubEnvironment first;
+    StubEnvironment second;
     QMShellPlugInProcessingHost host(&first);
     EXPECT_EQ(host.environment(), &first);
     host.setEnvironment(&second);
@@ -117,14 +116,21 @@ TEST(ProcessingHostNotifications, anEndWithoutABeginDoesNotBlockWhatFollows) {
 
 namespace {
 
+/// Hears what a processing host tells; anything else an instance would tell itself.
+class MockNews : public StubEnvironment {
+public:
+    MOCK_METHOD(void, sampleRateSet, (INoxPlugIn&, const double*), (override));
+    MOCK_METHOD(void, blockSizeSet, (INoxPlugIn&, std::int32_t), (override));
+};
+
 /// Three instances in slots 0 to 2.
 class ProcessingHostRate : public ::testing::Test {
 protected:
     TestTypeGroup group;
-    StrictMock<MockEnvironment> environment;
-    NiceMock<MockHostedPlugIn> first{group};
-    NiceMock<MockHostedPlugIn> second{group};
-    NiceMock<MockHostedPlugIn> third{group};
+    StrictMock<MockNews> environment;
+    NiceHostedPlugIn first{group};
+    NiceHostedPlugIn second{group};
+    NiceHostedPlugIn third{group};
     QMShellPlugInProcessingHost host{&environment};
 
     void SetUp() override {

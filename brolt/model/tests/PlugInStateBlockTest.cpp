@@ -6,9 +6,6 @@
 
 #include <gtest/gtest.h>
 
-using ::testing::_;
-using ::testing::Return;
-
 namespace {
 
 struct StateBlockRow {
@@ -117,34 +114,54 @@ TEST(PlugInStateBlock, inTheHostsMemoryServesSnapshotRequestsInStereo) {
     expectServedRequest<2>(stereoBlock);
 }
 
+namespace {
+
+/// Notes where a dump has its buffer, and what was in it.
+class DumpingHost : public InProcessHost {
+public:
+    NoxResult readPlugInData(INoxPlugIn& plugIn, std::uint64_t remoteID, std::size_t offset,
+                             std::size_t length, void* destination) override {
+        EXPECT_EQ(remoteID, 31u);
+        EXPECT_EQ(offset, 0u);
+        bytesAsked = length;
+        buffer = destination;
+        const std::vector<unsigned char> zeroes(length);
+        EXPECT_EQ(std::memcmp(destination, zeroes.data(), length), 0);
+        if (refusal != 0)
+            return refusal;
+        return InProcessHost::readPlugInData(plugIn, remoteID, offset, length, destination);
+    }
+
+    NoxResult refusal = 0;
+    std::size_t bytesAsked = 0;
+    const void* buffer = nullptr;
+};
+
+} // namespace
+
 TEST(PlugInStateBlock, aDumpReadsItBackThroughTheHostAndLogsTheBuffer) {
     PlugInUnderTest<2> test;
-    InProcessHost host;
+    DumpingHost host;
     test.plugIn.createProcessingState();
-    test.plugIn.setProcessingHost(&host);
     test.plugIn.setRemoteInstanceID(31);
-    const void* buffer = nullptr;
-    EXPECT_CALL(host, readPlugInData(::testing::Ref(test.plugIn), 31, 0, 216, _))
-        .WillOnce([&](INoxPlugIn&, std::uint64_t, std::size_t, std::size_t length, void* into) {
-            const std::vector<unsigned char> zeroes(length);
-            EXPECT_EQ(std::memcmp(into, zeroes.data(), length), 0);
-            buffer = into;
-            return 0;
-        });
+    test.plugIn.setProcessingHost(&host);
     const LogCapture capture(QM::LogLevel::error);
     EXPECT_EQ(test.plugIn.dumpProcessingState(), 0);
-    EXPECT_EQ(capture.messages(), printed("buffer: %p", buffer));
+    EXPECT_EQ(host.bytesAsked, 216u);
+    EXPECT_EQ(capture.messages(), printed("buffer: %p", host.buffer));
     test.plugIn.setProcessingHost(nullptr);
 }
 
 TEST(PlugInStateBlock, aDumpThatFailsAnswersTheHostsResultAndLogsNothing) {
     PlugInUnderTest<1> test;
-    InProcessHost host;
+    DumpingHost host;
     const LogCapture capture(QM::LogLevel::error);
     EXPECT_EQ(test.plugIn.dumpProcessingState(), 6); // no host
+    test.plugIn.setRemoteInstanceID(31);
     test.plugIn.setProcessingHost(&host);
     EXPECT_EQ(test.plugIn.dumpProcessingState(), 9); // no state
-    EXPECT_CALL(host, readPlugInData(_, _, 0, 176, _)).WillOnce(Return(-2000));
+    EXPECT_EQ(host.bytesAsked, 176u);
+    host.refusal = -2000;
     EXPECT_EQ(test.plugIn.dumpProcessingState(), -2000);
     EXPECT_EQ(capture.messages(), "");
     test.plugIn.setProcessingHost(nullptr);

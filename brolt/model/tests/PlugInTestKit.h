@@ -6,7 +6,7 @@
 #include "brolt/model/QMBrolt_PlugIn.h"
 #include "brolt/model/QMBrolt_PlugInTypeGroup.h"
 #include "plugin-model/ControlMessages.h"
-#include "plugin-model/tests/MockProcessingHost.h"
+#include "plugin-model/tests/StubProcessingHost.h"
 
 #include <gtest/gtest.h>
 
@@ -18,27 +18,24 @@
 #include <vector>
 
 /// Copies analysis words and processing data as a host does that runs instances in this process.
-class InProcessHost : public ::testing::NiceMock<MockProcessingHost> {
+class InProcessHost : public StubProcessingHost {
 public:
-    InProcessHost() {
-        ON_CALL(*this, fetchInputCopy)
-            .WillByDefault([](INoxPlugIn& plugIn, std::uint64_t, std::uint32_t, std::uint32_t,
-                              void* destination) {
-                Packet message(Packet::messageKind, sizeof(NoxBufferMessage));
-                const NoxBufferMessage content{0x1000000, 0, destination};
-                std::memcpy(message.data, &content, sizeof content);
-                plugIn.handleMessage(message);
-                return NoxResult{6};
-            });
-        ON_CALL(*this, readPlugInData)
-            .WillByDefault([](INoxPlugIn& plugIn, std::uint64_t, std::size_t offset,
-                              std::size_t length, void* destination) {
-                const auto* data = static_cast<const std::byte*>(plugIn.processingData());
-                if (data == nullptr)
-                    return NoxResult{9};
-                std::memcpy(destination, data + offset, length);
-                return NoxResult{0};
-            });
+    NoxResult fetchInputCopy(INoxPlugIn& plugIn, std::uint64_t, std::uint32_t, std::uint32_t,
+                             void* destination) override {
+        const Packet message(Packet::messageKind, sizeof(NoxBufferMessage));
+        const NoxBufferMessage content{0x1000000, 0, destination};
+        std::memcpy(message.data, &content, sizeof content);
+        plugIn.handleMessage(message);
+        return 6;
+    }
+
+    NoxResult readPlugInData(INoxPlugIn& plugIn, std::uint64_t, std::size_t offset,
+                             std::size_t length, void* destination) override {
+        const auto* data = static_cast<const std::byte*>(plugIn.processingData());
+        if (data == nullptr)
+            return 9;
+        std::memcpy(destination, data + offset, length);
+        return 0;
     }
 };
 

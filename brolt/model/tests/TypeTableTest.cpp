@@ -3,15 +3,13 @@
 #include "brolt/model/QMBrolt_PlugIn.h"
 #include "brolt/model/QMBrolt_PlugInTypeGroup.h"
 #include "plugin-model/NoxPlugInType.h"
-#include "plugin-model/tests/MockEnvironment.h"
+#include "plugin-model/tests/StubEnvironment.h"
 #include "services/tests/LogCapture.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
-
-using ::testing::NiceMock;
 
 namespace {
 
@@ -40,7 +38,7 @@ const std::array<TypeRow, 2> typeRows{{
 
 class BroltTypeTable : public ::testing::TestWithParam<TypeRow> {
 protected:
-    NiceMock<MockEnvironment> environment;
+    StubEnvironment environment;
     QMBrolt_PlugInTypeGroup group{&environment};
     const TypeRow& row = GetParam();
     NoxPlugInType& type = dynamic_cast<NoxPlugInType&>(*group.typeOfIndex(row.groupIndex));
