@@ -129,15 +129,12 @@ public:
 };
 
 /// Parameters. Questions out of range get neutral answers; see IQMParameterSet.
-class INoxPlugInParameters {
+class INoxPlugInParameters : public QM::QMParameterQueries {
 public:
-    virtual ~INoxPlugInParameters() = default;
-
     /// Null for a type without a parameter set.
     [[nodiscard]] virtual QM::IQMParameterValues* parameterValues() const = 0;
     /// Null for a type without a parameter set.
     [[nodiscard]] virtual const QM::IQMParameterSet* parameterSet() const = 0;
-    [[nodiscard]] virtual std::int32_t parameterCount() const = 0;
     [[nodiscard]] virtual bool isBypassParameterIndex(std::int32_t index) const = 0;
 
     /// Plain units.

@@ -7,6 +7,7 @@
 #include "plugin-model/FourCharCode.h"
 #include "plugin-model/IQMParameterSet.h"
 #include "plugin-model/NoxRuntimeArchitecture.h"
+#include "plugin-model/QMParameterQueries.h"
 #include "plugin-model/ResultCodes.h"
 
 #include <array>
@@ -101,7 +102,9 @@ public:
     [[nodiscard]] virtual std::string outputChannelName(std::int32_t output) const = 0;
 };
 
-class INoxPlugInType : public INoxPlugInTypeIdentity, public INoxPlugInTypeIO {
+class INoxPlugInType : public INoxPlugInTypeIdentity,
+                       public INoxPlugInTypeIO,
+                       public QM::QMParameterQueries {
 public:
     // Parameters and meters.
 
@@ -110,11 +113,7 @@ public:
     [[nodiscard]] virtual const QM::IQMParameterSet* parameterSet() const = 0;
     /// The values object of a new instance; none without a set.
     virtual std::unique_ptr<QM::QMParameterValues> createParameterValues() = 0;
-    [[nodiscard]] virtual std::int32_t parameterCount() const = 0;
-    [[nodiscard]] virtual double parameterDefault(std::int32_t index) const = 0;
     [[nodiscard]] virtual std::int32_t meterCount() const = 0;
-    /// The set's flag; false without a set.
-    [[nodiscard]] virtual bool constructedFlag() const = 0;
     /// Index of the bypass parameter; -1 without one.
     [[nodiscard]] virtual std::int32_t bypassParameterIndex() const = 0;
 

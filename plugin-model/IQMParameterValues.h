@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The current values of one plug-in instance's parameters: everybody who reads, changes, touches or
-// brackets parameters does it through this interface. Questions about what a parameter is go to the
-// set (parameterSet).
+// brackets parameters does it through this interface. Questions about what a parameter is are
+// answered by the set.
 //
 // One thread at a time changes values (the editor's, the host's control thread, MIDI); nothing here
 // locks, and nothing here is for the audio thread, which only sees coefficient records.
@@ -12,16 +12,15 @@
 #include "plugin-model/IQMParameterValuesUndoHandler.h"
 #include "plugin-model/Packet.h"
 #include "plugin-model/QMParameterChanges.h"
+#include "plugin-model/QMParameterQueries.h"
 #include "plugin-model/QMParameterValuesCoefficientFlusher.h"
 
 #include <cstdio>
 
 namespace QM {
 
-class IQMParameterValues {
+class IQMParameterValues : public QMParameterQueries {
 public:
-    virtual ~IQMParameterValues() = default;
-
     [[nodiscard]] virtual IQMParameterSet& parameterSet() = 0;
     [[nodiscard]] virtual const IQMParameterSet& parameterSet() const = 0;
 

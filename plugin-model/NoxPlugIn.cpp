@@ -29,7 +29,7 @@ NoxPlugIn::NoxPlugIn(INoxPlugInType& type, INoxPlugInProcessingHost* host,
     values_ = type.createParameterValues();
     if (values_ == nullptr) {
         for (std::int32_t i = 0; i < type.parameterCount(); ++i)
-            defaultValues.push_back(type.parameterDefault(i));
+            defaultValues.push_back(type.defaultValue(i));
         return;
     }
     values_->setUndoHandler(this);

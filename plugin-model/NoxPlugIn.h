@@ -114,7 +114,6 @@ public:
     // Parameters.
     [[nodiscard]] QM::IQMParameterValues* parameterValues() const override;
     [[nodiscard]] const QM::IQMParameterSet* parameterSet() const override;
-    [[nodiscard]] std::int32_t parameterCount() const override;
     [[nodiscard]] bool isBypassParameterIndex(std::int32_t index) const override;
     [[nodiscard]] double parameterValue(std::int32_t index) const override;
     [[nodiscard]] double normalisedValue(std::int32_t index) const override;
@@ -195,6 +194,8 @@ protected:
     [[nodiscard]] std::vector<NoxMeterRecord>& meterRecords() { return meterRecords_; }
 
 private:
+    [[nodiscard]] const QM::IQMParameterSet* queriedSet() const override { return parameterSet(); }
+
     [[nodiscard]] std::unique_ptr<QMParameterValuesCoefficientFlusher>
     createFlusher(NoxRuntimeArchitecture architecture);
     void detachFromHost();

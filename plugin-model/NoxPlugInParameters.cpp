@@ -15,10 +15,6 @@ const QM::IQMParameterSet* NoxPlugIn::parameterSet() const {
     return type_->parameterSet();
 }
 
-std::int32_t NoxPlugIn::parameterCount() const {
-    return type_->parameterCount();
-}
-
 bool NoxPlugIn::isParameterIndex(std::int32_t index) const {
     return index >= 0 && index < parameterCount();
 }

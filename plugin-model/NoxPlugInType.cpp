@@ -52,20 +52,8 @@ std::unique_ptr<QM::QMParameterValues> NoxPlugInType::createParameterValues() {
     return set != nullptr ? set->createParameterValues() : nullptr;
 }
 
-std::int32_t NoxPlugInType::parameterCount() const {
-    return set != nullptr ? set->parameterCount() : 0;
-}
-
-double NoxPlugInType::parameterDefault(std::int32_t index) const {
-    return set != nullptr ? set->defaultValue(index) : 0.0;
-}
-
 std::int32_t NoxPlugInType::meterCount() const {
     return set != nullptr ? set->meterCount() : 0;
-}
-
-bool NoxPlugInType::constructedFlag() const {
-    return set != nullptr && set->constructedFlag();
 }
 
 std::int32_t NoxPlugInType::bypassParameterIndex() const {

@@ -119,10 +119,7 @@ public:
     [[nodiscard]] const QM::IQMParameterSet* parameterSet() const override { return set.get(); }
 
     std::unique_ptr<QM::QMParameterValues> createParameterValues() override;
-    [[nodiscard]] std::int32_t parameterCount() const override;
-    [[nodiscard]] double parameterDefault(std::int32_t index) const override;
     [[nodiscard]] std::int32_t meterCount() const override;
-    [[nodiscard]] bool constructedFlag() const override;
     [[nodiscard]] std::int32_t bypassParameterIndex() const override;
 
     // Instances.
@@ -159,6 +156,8 @@ protected:
     virtual std::unique_ptr<INoxPlugInImplementation> createImplementation(std::int32_t isa);
 
 private:
+    [[nodiscard]] const QM::IQMParameterSet* queriedSet() const override { return set.get(); }
+
     static constexpr std::size_t isaCount = 15;
 
     INoxPlugInTypeGroup& group_;

@@ -85,6 +85,8 @@ protected:
     virtual void announceTouchEnd(std::int32_t index);
 
 private:
+    [[nodiscard]] const IQMParameterSet* queriedSet() const override { return &set; }
+
     [[nodiscard]] bool isValid(std::int32_t index) const;
     template <typename Notification>
     void tellListeners(Notification notify);

@@ -100,8 +100,8 @@ TEST(NoxPlugInType, configurationCodesBelongToTheChannels) {
 TEST(NoxPlugInType, asksItsSetAndIsNeutralWithoutOne) {
     TestTypeGroup with;
     EXPECT_EQ(with.testType().parameterCount(), 3);
-    EXPECT_EQ(with.testType().parameterDefault(2), 10.0);
-    EXPECT_EQ(with.testType().parameterDefault(3), 0.0);
+    EXPECT_EQ(with.testType().defaultValue(2), 10.0);
+    EXPECT_EQ(with.testType().defaultValue(3), 0.0);
     EXPECT_EQ(with.testType().meterCount(), 2);
     EXPECT_TRUE(with.testType().constructedFlag());
     EXPECT_NE(with.testType().parameterSet(), nullptr);
@@ -109,7 +109,7 @@ TEST(NoxPlugInType, asksItsSetAndIsNeutralWithoutOne) {
 
     TestTypeGroup without(nullptr, TestTypeKind::withoutSet);
     EXPECT_EQ(without.testType().parameterCount(), 0);
-    EXPECT_EQ(without.testType().parameterDefault(0), 0.0);
+    EXPECT_EQ(without.testType().defaultValue(0), 0.0);
     EXPECT_EQ(without.testType().meterCount(), 0);
     EXPECT_FALSE(without.testType().constructedFlag());
     EXPECT_EQ(without.testType().parameterSet(), nullptr);
