@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/BenchMaterial.h"
 
-#include "brolt/signal/CoefficientComputation.h"
+#include "brolt/signal/tests/BroltTestKit.h"
 
 #include <bit>
 #include <cmath>
@@ -29,30 +29,10 @@ float sampleOf(Material kind, int32_t frame, uint32_t& seed) {
     }
 }
 
-BroltParameters defaultParameters() {
-    BroltParameters parameters;
-    parameters.osc1Enable = true;
-    parameters.osc1AttackFrequency = 100.0F;
-    parameters.osc1SustainFrequency = 60.0F;
-    parameters.osc2Enable = true;
-    parameters.osc2AttackFrequency = 200.0F;
-    parameters.osc2SustainFrequency = 120.0F;
-    parameters.osc2MixGain = -12.0F;
-    parameters.envelopeAttack = 2.0F;
-    parameters.envelopeRelease = 140.0F;
-    parameters.pitchAttack = 2.0F;
-    parameters.pitchRelease = 140.0F;
-    parameters.wetDry = 100.0F;
-    return parameters;
-}
-
 Coefficients recordWithGain(float decibels) {
     BroltParameters parameters = defaultParameters();
     parameters.outputGain = decibels;
-    Coefficients record;
-    computeCoefficients(record, parameters);
-    record.meterVersion = 2;
-    return record;
+    return recordOf(parameters);
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 #include "brolt/model/QMBrolt_PlugInTypeGroup.h"
 #include "brolt/model/QMBrolt_ProductCodes.h"
 #include "brolt/signal/Brolt.h"
-#include "brolt/signal/CoefficientComputation.h"
+#include "brolt/signal/tests/BroltTestKit.h"
 #include "plugin-model/INoxPlugIn.h"
 #include "plugin-model/INoxPlugInType.h"
 
@@ -18,15 +18,7 @@
 namespace {
 
 void benchCoefficients(benchmark::State& state) {
-    BroltParameters parameters;
-    parameters.osc1AttackFrequency = 100.0F;
-    parameters.osc1SustainFrequency = 60.0F;
-    parameters.osc2AttackFrequency = 200.0F;
-    parameters.osc2SustainFrequency = 120.0F;
-    parameters.envelopeAttack = 2.0F;
-    parameters.envelopeRelease = 140.0F;
-    parameters.pitchAttack = 2.0F;
-    parameters.pitchRelease = 140.0F;
+    BroltParameters parameters = defaultParameters();
     Coefficients record;
     for (auto unused : state) {
         (void)unused;
