@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 #include <stdexcept>
 
@@ -38,6 +39,27 @@ TEST_F(NoxPlugInParameters, startAtTheirDefaults) {
     EXPECT_EQ(plugIn.parameterValue(-1), 0.0);
     EXPECT_EQ(plugIn.parameterValue(3), 0.0);
     EXPECT_EQ(plugIn.parameterSet(), group.testType().parameterSet());
+}
+
+TEST_F(NoxPlugInParameters, questionsAboutThemAreTheSetsToAnswer) {
+    std::array<char, 16> text{};
+    plugIn.copyName(1, text.data(), text.size());
+    EXPECT_STREQ(text.data(), "Bravo");
+    plugIn.formatValueText(0, 5.5, text.data(), text.size());
+    EXPECT_STREQ(text.data(), "5.5");
+    EXPECT_STREQ(plugIn.unitPointer(2), "%");
+    EXPECT_EQ(plugIn.minimum(2), 1.0);
+    EXPECT_EQ(plugIn.maximum(2), 100.0);
+    EXPECT_EQ(plugIn.defaultValue(2), 10.0);
+    EXPECT_EQ(plugIn.taper(1), NoxTaper::stepped);
+    EXPECT_EQ(plugIn.step(0), 0.5);
+    EXPECT_EQ(plugIn.idOfIndex(2), fourCharCode("chrl"));
+    EXPECT_EQ(plugIn.indexOfID(fourCharCode("brvo")), 1);
+    EXPECT_EQ(plugIn.indexOfID(fourCharCode("none")), -1);
+    EXPECT_EQ(plugIn.normalisedToPlain(0, 0.5), 5.0);
+    EXPECT_EQ(plugIn.plainToNormalised(0, 2.5), 0.25);
+    EXPECT_EQ(plugIn.maximum(3), 0.0);
+    EXPECT_STREQ(plugIn.namePointer(-1), "");
 }
 
 TEST_F(NoxPlugInParameters, aChangeReachesTheValuesAndTheEnvironmentOnce) {
