@@ -25,6 +25,7 @@ function(brolt_add_header_library name header)
 endfunction()
 
 brolt_add_header_library(cli11 CLI/CLI.hpp)
+brolt_add_header_library(nlohmann_json nlohmann/json.hpp)
 # Pictures are drawn in memory and written through stb: no window system, no libpng.
 brolt_add_header_library(cimg CImg.h DEFINITIONS cimg_display=0)
 brolt_add_header_library(stb stb/stb_image_write.h)

@@ -4,6 +4,9 @@
 // entries run on the audio thread, which hears of parameters through coefficient records alone.
 #pragma once
 
+#include "plugin-model/INoxPlugInSnapshots.h"
+#include "plugin-model/INoxPlugInState.h"
+#include "plugin-model/INoxPlugInUndo.h"
 #include "plugin-model/IQMParameterValues.h"
 #include "plugin-model/NoxMeterRecord.h"
 #include "plugin-model/NoxRuntimeArchitecture.h"
@@ -223,5 +226,8 @@ class INoxPlugIn : public INoxPlugInIdentity,
                    public INoxPlugInRemoteMemory,
                    public INoxPlugInMeters,
                    public INoxPlugInParameters,
+                   public INoxPlugInState,
+                   public INoxPlugInSnapshots,
+                   public INoxPlugInUndo,
                    public INoxPlugInProcessing,
                    public INoxPlugInTransport {};

@@ -7,8 +7,12 @@
 #include "plugin-model/FourCharCode.h"
 #include "plugin-model/NoxHostDescription.h"
 #include "plugin-model/NoxTransport.h"
+#include "plugin-model/QMGenericEventSource.h"
+
+#include <nlohmann/json_fwd.hpp>
 
 #include <cstdint>
+#include <memory>
 
 class INoxPlugIn;
 class INoxPlugInType;
@@ -65,6 +69,14 @@ public:
     virtual void parametersChanged(INoxPlugIn& plugIn, std::int32_t count,
                                    const std::int32_t* indices, const double* values,
                                    std::uint8_t flag) = 0;
+
+    // Event sources of parameter controllers.
+
+    /// Makes a source of a mapping document. Null for a kind of source that is not known, and in
+    /// an environment without any.
+    virtual std::unique_ptr<QMGenericEventSource> createEventSource(const nlohmann::json&) {
+        return nullptr;
+    }
 
     // General-purpose integers of this environment.
 

@@ -87,6 +87,8 @@ public:
     [[nodiscard]] virtual std::int32_t taper(std::int32_t index) const = 0;
     [[nodiscard]] virtual double step(std::int32_t index) const = 0;
     [[nodiscard]] virtual double factor(std::int32_t index) const = 0;
+    /// Whether blending two snapshots mixes the parameter; otherwise it keeps its current value.
+    [[nodiscard]] virtual bool isBlendable(std::int32_t index) const = 0;
 
     // Identifiers.
 

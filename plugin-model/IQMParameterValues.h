@@ -9,17 +9,22 @@
 
 #include "plugin-model/IQMParameterSet.h"
 #include "plugin-model/IQMParameterValuesListener.h"
-#include "plugin-model/IQMParameterValuesUndoHandler.h"
 #include "plugin-model/Packet.h"
 #include "plugin-model/QMParameterChanges.h"
 #include "plugin-model/QMParameterQueries.h"
 #include "plugin-model/QMParameterValuesCoefficientFlusher.h"
+#include "plugin-model/records/IQMParameterRecords.h"
+#include "plugin-model/snapshots/IQMParameterSnapshots.h"
+#include "plugin-model/undo/IQMParameterUndo.h"
 
 #include <cstdio>
 
 namespace QM {
 
-class IQMParameterValues : public QMParameterQueries {
+class IQMParameterValues : public QMParameterQueries,
+                           public IQMParameterSnapshots,
+                           public IQMParameterRecords,
+                           public IQMParameterUndo {
 public:
     [[nodiscard]] virtual IQMParameterSet& parameterSet() = 0;
     [[nodiscard]] virtual const IQMParameterSet& parameterSet() const = 0;
@@ -31,14 +36,16 @@ public:
     /// 0.0 for an unknown identifier.
     [[nodiscard]] virtual double getValueByID(FourCharCode id) const = 0;
     /// The main change entry: clamps, stores, records into the changes when there are any to fill,
-    /// tells the listeners in their order. An index out of range does nothing.
+    /// tells the listeners in their order. An index out of range does nothing. The parameter that
+    /// stands for the blend, where there is one, moves the blend instead.
     virtual void setParameterValue(std::int32_t index, double value,
                                    QMParameterChanges* changes) = 0;
     /// The same for several parameters, in order, as one bracketed change.
     virtual void setParameterValues(std::int32_t count, const std::int32_t* indices,
                                     const double* values, QMParameterChanges* changes) = 0;
-    /// Clamps into the parameter's range (not a number becomes the minimum) and stores without
-    /// telling anybody. True when the stored value changed; the changed flag is then set.
+    /// Clamps into the parameter's range (not a number becomes the minimum) and stores, in the
+    /// active snapshot as well, without telling anybody. True when the stored value changed; the
+    /// changed flag is then set.
     virtual bool storeValue(std::int32_t index, double value) = 0;
     virtual void storeAndFlush(std::int32_t index, double value) = 0;
     /// Stores several values and flushes once.
@@ -67,7 +74,8 @@ public:
     virtual void setDefaultHostStatus(std::uint32_t status) = 0;
 
     // Gestures: holds of one parameter are counted, so that the editor, a control surface and
-    // MIDI may hold it at once.
+    // MIDI may hold it at once. From the first hold to the last one's end is one undo group, which
+    // begins with the value before.
 
     virtual void beginTouch(std::int32_t index) = 0;
     virtual void endTouch(std::int32_t index) = 0;
@@ -88,6 +96,10 @@ public:
     [[nodiscard]] virtual double sampleRate() const = 0;
     /// Takes a new rate over and reports the parameters that it changed (none in the base).
     virtual void setSampleRate(double rate, QMParameterChanges& changes) = 0;
+    /// The parameter that stands for the blend of the snapshots; -1 when there is none.
+    virtual void setBlendParameterIndex(std::int32_t index) = 0;
+    /// While locked, the blend parameter does nothing.
+    virtual void setBlendLocked(bool locked) = 0;
     [[nodiscard]] virtual bool enabled() const = 0;
     virtual void disable() = 0;
 
@@ -95,11 +107,6 @@ public:
 
     virtual void addListener(IQMParameterValuesListener& listener) = 0;
     virtual void removeListener(IQMParameterValuesListener& listener) = 0;
-
-    // Replay of recorded changes. Without a handler the forward does nothing.
-
-    virtual void setUndoHandler(IQMParameterValuesUndoHandler* handler) = 0;
-    virtual void replayParameterValue(std::int32_t index, double value) = 0;
 
     // Dumps for developers.
 

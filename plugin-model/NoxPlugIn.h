@@ -12,9 +12,16 @@
 #include "plugin-model/NoxParameterController.h"
 #include "plugin-model/QMIOConnectionController.h"
 
+#include <nlohmann/json_fwd.hpp>
+
 #include <array>
 #include <set>
+#include <utility>
 #include <vector>
+
+namespace QM {
+struct ParameterStateRecord;
+}
 
 class NoxPlugIn : public INoxPlugIn,
                   public QM::IQMParameterValuesUndoHandler,
@@ -181,12 +188,57 @@ public:
 
     [[nodiscard]] std::array<std::int64_t, 3> markPositions() const override { return marks; }
 
-    /// Replays a recorded value like any other change. [message thread]
+    // State.
+    [[nodiscard]] bool supportsGenericPresets() const override;
+    [[nodiscard]] bool canApplyGenericPreset(const QMGenericPreset& record) const override;
+    [[nodiscard]] QMGenericPreset getStateRecord(StateExtent extent) const override;
+    bool applyStateRecord(const QMGenericPreset& record) override;
+    void adaptStateRecord(QMGenericPreset& record) const override;
+    [[nodiscard]] bool equalsStateRecord(const QMGenericPreset& record) const override;
+    [[nodiscard]] std::vector<std::byte> getParameterState() const override;
+    [[nodiscard]] std::vector<std::byte> getFactoryState() const override;
+    bool applyParameterState(std::span<const std::byte> bytes) override;
+    [[nodiscard]] SettingLocator currentPresetLocator() const override;
+    void setCurrentPresetLocator(const SettingLocator& locator) override;
+    [[nodiscard]] std::uint64_t currentPresetId() const override;
+    void setCurrentPresetId(std::uint64_t id) override;
+    void updateParameterControllerMapFromProperty() override;
+
+    // Snapshots.
+    [[nodiscard]] std::int32_t snapshotCount() const override;
+    [[nodiscard]] bool isSnapshotPopulated(std::int32_t snapshot) const override;
+    [[nodiscard]] std::int32_t activeSnapshot() const override;
+    [[nodiscard]] std::string snapshotName(std::int32_t snapshot) const override;
+    void selectSnapshot(std::int32_t snapshot, QM::SnapshotMode mode) override;
+    void loadSnapshotFromPreset(std::int32_t snapshot, const QMGenericPreset& record) override;
+    void copySnapshot(std::int32_t from, std::int32_t to) override;
+    void setBlend(float x, float y) override;
+    [[nodiscard]] float blendValue(std::int32_t axis) const override;
+    void beginBlendGesture() override;
+    void endBlendGesture() override;
+
+    // Undo.
+    void undo() override;
+    void redo() override;
+    [[nodiscard]] bool canUndo() const override;
+    [[nodiscard]] bool canRedo() const override;
+    void clearUndo() override;
+    void clearRedo() override;
+    void clearUndoAndRedo() override;
+    [[nodiscard]] std::string undoMenuText() const override;
+    [[nodiscard]] std::string redoMenuText() const override;
+
+    // Replays of recorded steps, which reach the environment like any other change.
     void replayParameterValue(std::int32_t index, double value) override;
+    void replayRecord(const QMGenericPreset& record) override;
+    void replayBlendAmount(float x) override;
 
 protected:
     /// What the product says to a channel pair that its type supports; 0 accepts.
     virtual NoxResult ioConfigurationHook(std::int32_t, std::int32_t) { return 0; }
+
+    /// Called after a state, a preset or a snapshot was applied; nothing in the base.
+    virtual void postApplicationHook() {}
 
     /// Whether refresh keeps an analysis buffer on the host.
     void setWantsAnalysisBuffer(bool wanted) { wantsAnalysisBuffer = wanted; }
@@ -211,6 +263,20 @@ private:
     /// Makes the change and tells the environment when the value is another one afterwards.
     template <typename Change>
     void changeParameter(std::int32_t index, Change change);
+    /// Makes a change of many parameters and tells the environment which.
+    template <typename Change>
+    void changeParameters(Change change);
+    void tellChanges(const QM::QMParameterChanges& changes);
+    void finishApplication(const QM::QMParameterChanges& changes);
+
+    using ControllerSource =
+        std::pair<NoxParameterController*, std::unique_ptr<QMGenericEventSource>>;
+    /// The event sources that the controller map of an extension document describes.
+    [[nodiscard]] std::vector<ControllerSource>
+    createEventSources(const nlohmann::json& extensionDocument);
+
+    [[nodiscard]] QM::ParameterStateRecord ownStateRecord(std::vector<double> values) const;
+    bool takeDefaultValues(std::span<const std::byte> bytes);
 
     double sampleRate_ = 44100.0;
     INoxPlugInProcessingHost* host_;
@@ -244,4 +310,13 @@ private:
     void* analysisBuffer = nullptr;
     bool wantsAnalysisBuffer = false;
     std::vector<std::unique_ptr<NoxParameterController>> controllers;
+
+    /// A locator that was set; it holds for as long as the preset is the one it was set for.
+    struct ChosenLocator {
+        bool isSet = false;
+        SettingLocator locator;
+        std::uint64_t presetId = 0;
+    };
+
+    ChosenLocator chosenLocator;
 };

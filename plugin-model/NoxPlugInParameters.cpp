@@ -137,21 +137,6 @@ void NoxPlugIn::refreshWithoutValues() {
     endAccumulate();
 }
 
-NoxParameterController* NoxPlugIn::controllerOfIndex(std::int32_t index) {
-    if (!isParameterIndex(index))
-        return nullptr;
-    controllers.resize(static_cast<std::size_t>(parameterCount()));
-    auto& controller = controllers[static_cast<std::size_t>(index)];
-    if (controller == nullptr)
-        controller = std::make_unique<NoxParameterController>(*this, index);
-    return controller.get();
-}
-
-NoxParameterController* NoxPlugIn::controllerOfID(FourCharCode id) {
-    const QM::IQMParameterSet* set = parameterSet();
-    return set != nullptr ? controllerOfIndex(set->indexOfID(id)) : nullptr;
-}
-
 void NoxPlugIn::generatePackets(PacketList& packets) {
     if (values_ != nullptr)
         values_->generatePackets(packets);
@@ -170,8 +155,4 @@ void NoxPlugIn::logParameterValues() const {
 void NoxPlugIn::dumpDefaultsTable(const char* name) const {
     if (values_ != nullptr)
         values_->dumpDefaultsTable(name, nullptr);
-}
-
-void NoxPlugIn::replayParameterValue(std::int32_t index, double value) {
-    setParameterValue(index, value);
 }

@@ -64,6 +64,11 @@ public:
     [[nodiscard]] double step(std::int32_t index) const override;
     [[nodiscard]] double factor(std::int32_t index) const override;
 
+    /// Every parameter there is; a product may except some.
+    [[nodiscard]] bool isBlendable(std::int32_t index) const override {
+        return index >= 0 && index < parameterCount();
+    }
+
     [[nodiscard]] FourCharCode idOfIndex(std::int32_t index) const override;
     [[nodiscard]] std::int32_t indexOfID(FourCharCode id) const override;
     [[nodiscard]] std::int32_t hostIndexOfIndex(std::int32_t index) const override;

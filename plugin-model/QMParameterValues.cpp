@@ -3,6 +3,8 @@
 
 #include "plugin-model/AccumulateBracket.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -13,7 +15,9 @@ QMParameterValues::QMParameterValues(IQMParameterSet& parameterSet, double sampl
     , values(static_cast<std::size_t>(parameterSet.parameterCount()))
     , changedFlags(values.size())
     , touchCounts(values.size())
-    , sampleRate_(sampleRate) {
+    , sampleRate_(sampleRate)
+    , document(std::make_unique<nlohmann::json>()) {
+    resetExcludedIDs();
     for (std::size_t i = 0; i < values.size(); ++i)
         values[i] = set.defaultValue(static_cast<std::int32_t>(i));
 }
@@ -36,12 +40,25 @@ void QMParameterValues::setParameterValue(std::int32_t index, double value,
                                           QMParameterChanges* changes) {
     if (!isValid(index))
         return;
+    if (index == blendParameter) {
+        moveBlendParameter(value, changes);
+        return;
+    }
     storeAndFlush(index, value);
     if (changes != nullptr)
         changes->record(index, getValue(index));
     tellListeners([&](IQMParameterValuesListener& listener) {
         listener.parameterValueSet(*this, index, getValue(index));
     });
+}
+
+void QMParameterValues::moveBlendParameter(double value, QMParameterChanges* changes) {
+    if (blendLocked)
+        return;
+    values[static_cast<std::size_t>(blendParameter)] = value;
+    if (changes != nullptr)
+        changes->record(blendParameter, value);
+    setBlend(static_cast<float>(value), static_cast<float>(value), changes);
 }
 
 void QMParameterValues::setParameterValues(std::int32_t count, const std::int32_t* indices,
@@ -58,6 +75,8 @@ bool QMParameterValues::storeValue(std::int32_t index, double value) {
     const double minimum = set.minimum(index);
     // A comparison with not-a-number is false: it becomes the minimum.
     const double clamped = value >= minimum ? std::min(value, set.maximum(index)) : minimum;
+    if (QMSnapshotTable::Snapshot* active = snapshots.activeOne())
+        active->values[static_cast<std::size_t>(index)] = clamped;
     double& stored = values[static_cast<std::size_t>(index)];
     if (stored == clamped)
         return false;
@@ -130,8 +149,10 @@ void QMParameterValues::beginTouch(std::int32_t index) {
     if (!isValid(index))
         return;
     std::int32_t& count = touchCounts[static_cast<std::size_t>(index)];
-    if (count == 0)
+    if (count == 0) {
+        beginUndoGesture(index);
         announceTouchStart(index);
+    }
     ++count;
 }
 
@@ -139,8 +160,10 @@ void QMParameterValues::endTouch(std::int32_t index) {
     if (!isValid(index))
         return;
     std::int32_t& count = touchCounts[static_cast<std::size_t>(index)];
-    if (count == 1)
+    if (count == 1) {
         announceTouchEnd(index);
+        undoManager_.endGroup();
+    }
     --count;
 }
 
@@ -203,11 +226,6 @@ void QMParameterValues::tellListeners(Notification notify) {
         if (std::find(listeners.begin(), listeners.end(), listener) != listeners.end())
             notify(*listener);
     }
-}
-
-void QMParameterValues::replayParameterValue(std::int32_t index, double value) {
-    if (undoHandler != nullptr)
-        undoHandler->replayParameterValue(index, value);
 }
 
 } // namespace QM

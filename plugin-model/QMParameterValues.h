@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The framework's values object. A product derives from it to turn its values into coefficient
-// packets.
+// packets. Its roles are in files of their own: values and brackets in QMParameterValues.cpp,
+// snapshots, records and undo in the ParameterValues…cpp files of those folders.
 #pragma once
 
 #include "plugin-model/IQMParameterValues.h"
+#include "plugin-model/snapshots/QMSnapshotTable.h"
+#include "plugin-model/undo/ZulUndoManager.h"
 
 #include <vector>
 
@@ -71,9 +74,82 @@ public:
     void addListener(IQMParameterValuesListener& listener) override;
     void removeListener(IQMParameterValuesListener& listener) override;
 
+    void setBlendParameterIndex(std::int32_t index) override { blendParameter = index; }
+
+    void setBlendLocked(bool locked) override { blendLocked = locked; }
+
+    // Snapshots.
+    void setSnapshotCount(std::int32_t count) override;
+
+    [[nodiscard]] std::int32_t snapshotCount() const override { return snapshots.count(); }
+
+    [[nodiscard]] bool isSnapshotPopulated(std::int32_t snapshot) const override;
+
+    [[nodiscard]] std::int32_t activeSnapshot() const override { return snapshots.active; }
+
+    [[nodiscard]] std::string snapshotName(std::int32_t snapshot) const override;
+    [[nodiscard]] double snapshotValue(std::int32_t snapshot, std::int32_t index) const override;
+    [[nodiscard]] std::uint64_t snapshotPresetId(std::int32_t snapshot) const override;
+    void selectSnapshot(std::int32_t snapshot, SnapshotMode mode,
+                        QMParameterChanges* changes) override;
+    void loadSnapshotFromPreset(std::int32_t snapshot, const QMGenericPreset& record,
+                                QMParameterChanges* changes) override;
+    void copySnapshot(std::int32_t from, std::int32_t to, QMParameterChanges* changes) override;
+    [[nodiscard]] bool snapshotsAreEqual(std::int32_t first, std::int32_t second) const override;
+    void setBlend(float x, float y, QMParameterChanges* changes) override;
+
+    [[nodiscard]] float blendCoordinate(bool second) const override {
+        return second ? snapshots.blendY : snapshots.blendX;
+    }
+
+    void beginBlendGesture() override;
+    void endBlendGesture() override;
+
+    // Records.
+    [[nodiscard]] QMGenericPreset makeRecord(StateExtent extent) const override;
+    [[nodiscard]] bool acceptsRecord(const QMGenericPreset& record) const override;
+    bool applyRecord(const QMGenericPreset& record, QMParameterChanges* changes) override;
+    [[nodiscard]] bool equalsRecord(const QMGenericPreset& record) const override;
+    [[nodiscard]] std::vector<std::byte> makeStateRecord() const override;
+    [[nodiscard]] bool acceptsStateRecord(std::span<const std::byte> bytes) const override;
+    bool applyStateRecord(std::span<const std::byte> bytes, QMParameterChanges* changes) override;
+
+    [[nodiscard]] const nlohmann::json& extensionDocument() const override { return *document; }
+
+    void setExtensionDocument(nlohmann::json newDocument) override;
+
+    [[nodiscard]] std::uint64_t currentPresetId() const override { return currentPreset; }
+
+    void setCurrentPresetId(std::uint64_t id) override { currentPreset = id; }
+
+    [[nodiscard]] const std::set<FourCharCode>& excludedIDs() const override { return excluded; }
+
+    void excludeID(FourCharCode id) override { excluded.insert(id); }
+
+    void resetExcludedIDs() override;
+    [[nodiscard]] bool matchesFirstCode(FourCharCode code) const override;
+    [[nodiscard]] bool matchesSecondCode(FourCharCode code) const override;
+    [[nodiscard]] bool isNotAboveVersion(std::uint32_t version) const override;
+
+    /// Maker and product that records are stamped with; 0 takes the set's codes.
+    [[nodiscard]] virtual FourCharCode manufacturerCode() const { return 0; }
+
+    [[nodiscard]] virtual FourCharCode productCode() const { return 0; }
+
+    /// Word of its own that a product may give its records.
+    [[nodiscard]] virtual std::uint32_t valuesTag() const { return 0; }
+
+    // Undo.
+    [[nodiscard]] ZulUndoManager& undoManager() override { return undoManager_; }
+
+    [[nodiscard]] const ZulUndoManager& undoManager() const override { return undoManager_; }
+
     void setUndoHandler(IQMParameterValuesUndoHandler* handler) override { undoHandler = handler; }
 
     void replayParameterValue(std::int32_t index, double value) override;
+    void replayPreset(const QMGenericPreset& record, std::int32_t activeSnapshot,
+                      std::uint64_t presetId) override;
+    void replayBlendAmount(float x) override;
 
     void dumpDefaultsTable(const char* name, std::FILE* stream) const override;
     void logValues() const override;
@@ -90,6 +166,25 @@ private:
     [[nodiscard]] bool isValid(std::int32_t index) const;
     template <typename Notification>
     void tellListeners(Notification notify);
+    void moveBlendParameter(double value, QMParameterChanges* changes);
+
+    /// Makes the changes of an applied snapshot, blend or record as one bracket.
+    void applyValues(std::span<const std::int32_t> indices, std::span<const double> plainValues,
+                     QMParameterChanges* changes);
+    void applySnapshotValues(const std::vector<double>& plainValues, QMParameterChanges* changes);
+    void recallSnapshot(std::int32_t snapshot, QMParameterChanges* changes);
+    void storeSnapshot(std::int32_t snapshot);
+    void selectBlend(QMParameterChanges* changes);
+    [[nodiscard]] std::vector<double> blendedValues() const;
+    [[nodiscard]] double blendedValue(std::int32_t index, double a, double b) const;
+    [[nodiscard]] bool isExcluded(FourCharCode id, std::int32_t index) const;
+    void takeDocumentOver(const nlohmann::json& newDocument);
+
+    void beginUndoGesture(std::int32_t index);
+    void recordParameterCommand(std::int32_t index);
+    void recordPresetCommand();
+    void recordBlendCommand();
+    void recordPendingBlendCommand();
 
     IQMParameterSet& set;
     std::unique_ptr<QMParameterValuesCoefficientFlusher> flusher;
@@ -102,6 +197,16 @@ private:
     std::int32_t coefficientVersion = 1;
     std::uint32_t defaultHostStatus = 1024;
     std::vector<IQMParameterValuesListener*> listeners;
+    std::int32_t blendParameter = -1;
+    bool blendLocked = false;
+
+    QMSnapshotTable snapshots;
+    bool applyingBlend = false;       ///< only while blended values are being applied
+    bool blendGesturePending = false; ///< a group is open in which no blend was recorded yet
+    std::uint64_t currentPreset = 0;
+    std::unique_ptr<nlohmann::json> document; ///< never null itself; it may hold a null document
+    std::set<FourCharCode> excluded;
+    ZulUndoManager undoManager_;
     IQMParameterValuesUndoHandler* undoHandler = nullptr;
 };
 

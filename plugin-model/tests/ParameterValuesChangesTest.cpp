@@ -171,6 +171,8 @@ TEST_F(ParameterChanges, noneOrFewerThanNoneAreNoFault) {
 TEST_F(ParameterChanges, aReplayGoesToTheHandlerAndNowhereWithoutOne) {
     struct Handler : QM::IQMParameterValuesUndoHandler {
         MOCK_METHOD(void, replayParameterValue, (std::int32_t, double), (override));
+        MOCK_METHOD(void, replayRecord, (const QMGenericPreset&), (override));
+        MOCK_METHOD(void, replayBlendAmount, (float), (override));
     };
 
     values.replayParameterValue(levelIndex, 1.0);

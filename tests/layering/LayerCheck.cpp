@@ -41,11 +41,12 @@ bool namesJuce(std::string header) {
 std::optional<std::string> faultOf(const std::filesystem::path& root, const std::string& file,
                                    const Layer& layer, const IncludeLine& include) {
     const std::string& header = include.header;
-    if (namesJuce(header) && layer.name != "tool") {
+    const bool toolkit = namesJuce(header);
+    if (toolkit && !layer.toolkit) {
         return "the " + layer.name + " layer may not include JUCE (" + header + ")";
     }
     if (!include.quoted) {
-        if (layer.thirdParty || isTestFile(file) || isStandardHeader(header) ||
+        if (toolkit || layer.thirdParty || isTestFile(file) || isStandardHeader(header) ||
             contains(layer.platformHeaders, header)) {
             return std::nullopt;
         }
@@ -57,8 +58,8 @@ std::optional<std::string> faultOf(const std::filesystem::path& root, const std:
     // A path with .. in it would hide the layer it leads to.
     const std::string target = std::filesystem::path(header).lexically_normal().generic_string();
     if (isTestFile(target)) {
-        // Benchmarks measure against what the tests compare with.
-        if (!isTestFile(file) && !file.starts_with("bench/")) {
+        // Benchmarks and fuzz targets measure against what the tests compare with.
+        if (!isTestFile(file) && !file.starts_with("bench/") && !file.starts_with("fuzz/")) {
             return "\"" + header + "\" belongs to the tests";
         }
         if (target.starts_with("tests/support/")) {

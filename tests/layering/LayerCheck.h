@@ -16,6 +16,6 @@
 //   - a shipped file that includes a test's file;
 //   - a header in angle brackets that is neither the C++ standard's nor allowed to the layer
 //     (tests of the layer excepted);
-//   - a header of the JUCE toolkit anywhere but in the tools.
+//   - a header of the JUCE toolkit in a layer that is not built on it.
 // Empty where all is well. Throws what findSourceFiles and readLines throw. [any thread]
 std::vector<std::string> checkLayers(const std::filesystem::path& root);

@@ -102,7 +102,7 @@ TEST(LayerCheck, shippedCodeIncludesNoTestCode) {
                             "brolt/signal/B.cpp:2: \"tests/support/A.h\" belongs to the tests"));
 }
 
-TEST(LayerCheck, juceIsFoundEverywhereButInTheTools) {
+TEST(LayerCheck, juceIsFoundWhereALayerIsNotBuiltOnIt) {
     EXPECT_THAT(check("QMShell/hosting/B.cpp", "#include <juce_core/juce_core.h>\n"),
                 ElementsAre("QMShell/hosting/B.cpp:1: the hosting layer may not include JUCE "
                             "(juce_core/juce_core.h)"));
@@ -110,6 +110,11 @@ TEST(LayerCheck, juceIsFoundEverywhereButInTheTools) {
         check("brolt/model/tests/BTest.cpp", "#include \"JuceHeader.h\"\n"),
         ElementsAre("brolt/model/tests/BTest.cpp:1: the product model layer may not include "
                     "JUCE (JuceHeader.h)"));
+    EXPECT_THAT(check("services/LogB.cpp", "#include <juce_core/juce_core.h>\n"),
+                ElementsAre("services/LogB.cpp:1: the model layer may not include JUCE "
+                            "(juce_core/juce_core.h)"));
+    EXPECT_THAT(check("services/preferences/B.cpp", "#include <juce_core/juce_core.h>\n"),
+                IsEmpty());
     EXPECT_THAT(check("tools/brolt-host/B.cpp", "#include <juce_core/juce_core.h>\n"), IsEmpty());
 }
 

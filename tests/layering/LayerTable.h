@@ -21,6 +21,9 @@ struct Layer {
     // Headers in angle brackets it may include beside the C++ standard's. Its tests are free.
     std::vector<std::string> platformHeaders;
 
+    // Set where the JUCE toolkit's headers may be included.
+    bool toolkit = false;
+
     // Set where third-party libraries belong: any header in angle brackets will do.
     bool thirdParty = false;
 };

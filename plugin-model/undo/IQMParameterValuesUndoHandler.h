@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+struct QMGenericPreset;
+
 namespace QM {
 
 class IQMParameterValuesUndoHandler {
@@ -13,6 +15,10 @@ public:
 
     /// Sets a parameter to a plain value recorded earlier. [message thread]
     virtual void replayParameterValue(std::int32_t index, double value) = 0;
+    /// Applies a record made earlier. [message thread]
+    virtual void replayRecord(const QMGenericPreset& record) = 0;
+    /// Moves the blend of the snapshots to a position recorded earlier. [message thread]
+    virtual void replayBlendAmount(float x) = 0;
 };
 
 } // namespace QM
