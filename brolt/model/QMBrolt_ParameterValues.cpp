@@ -45,7 +45,10 @@ QMBrolt_ParameterValues::QMBrolt_ParameterValues(IQMParameterSet& parameterSet, 
     : QMParameterValues(parameterSet, sampleRate)
     , manufacturer(manufacturerCode)
     , product(productCode)
-    , type(typeIndex) {}
+    , type(typeIndex) {
+    constexpr std::int32_t snapshotsAAndB = 2;
+    setSnapshotCount(snapshotsAAndB);
+}
 
 void QMBrolt_ParameterValues::setParameterValue(std::int32_t index, double value,
                                                 QMParameterChanges* changes) {

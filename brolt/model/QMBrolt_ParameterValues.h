@@ -17,9 +17,9 @@ public:
     /// Replaces the list's content by one coefficient packet with the next version.
     void generatePackets(PacketList& packets) override;
 
-    [[nodiscard]] FourCharCode manufacturerCode() const { return manufacturer; }
+    [[nodiscard]] FourCharCode manufacturerCode() const override { return manufacturer; }
 
-    [[nodiscard]] FourCharCode productCode() const { return product; }
+    [[nodiscard]] FourCharCode productCode() const override { return product; }
 
     /// 1 mono, 2 stereo.
     [[nodiscard]] std::int32_t typeIndex() const { return type; }

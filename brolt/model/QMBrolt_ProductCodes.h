@@ -10,6 +10,8 @@ constexpr FourCharCode manufacturerCode = fourCharCode("QML ");
 constexpr FourCharCode productCode = fourCharCode("BRLT");
 constexpr FourCharCode monoTypeCode = fourCharCode("BLT1");
 constexpr FourCharCode stereoTypeCode = fourCharCode("BLT2");
+/// The VST 2 form's identifier; hosts know saved VST 2 states by it.
+constexpr FourCharCode vst2UniqueId = fourCharCode("QMbl");
 constexpr FourCharCode bypassParameterID = fourCharCode("mbyp");
 
 /// Index of a type in the group; the type's own (stored) index is one more.
