@@ -5,6 +5,7 @@
 #include "tools/brolt-host/HostError.h"
 #include "tools/brolt-host/ParameterValueText.h"
 #include "tools/brolt-host/Utf8.h"
+#include "tools/brolt-host/state/StateCommandLine.h"
 
 #include <CLI/CLI.hpp>
 
@@ -19,6 +20,7 @@ struct RenderTexts {
     std::vector<std::string> files;
     std::vector<std::string> settings;
     std::string outputFolder;
+    RenderStateCommandLine state;
     std::string automation;
     std::string block = "512";
     std::string channels;
@@ -53,6 +55,7 @@ void addRender(CLI::App& app, RenderTexts& texts) {
         ->allow_extra_args(false)
         ->expected(1)
         ->take_all();
+    texts.state.addTo(*render);
     render->add_option("--automate", texts.automation, "Change parameters over time")
         ->type_name("FILE");
     render->add_option("--block", texts.block, "Frames a block (512)")->type_name("N");
@@ -123,6 +126,7 @@ RenderOptions renderOptions(const RenderTexts& texts) {
         options.files.push_back(pathFromUtf8(file));
     options.outputFolder = optionalPath(texts.outputFolder);
     options.settings = texts.settings;
+    options.state = texts.state.options();
     options.automation = optionalPath(texts.automation);
     options.blockSize = parseBlockSize(texts.block);
     options.channels = parseChannels(texts.channels);
@@ -164,6 +168,7 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
     paramsCommand->add_flag("--tsv", params.tabSeparated,
                             "For programs: tabulators between columns");
     const CLI::App* const infoCommand = app.add_subcommand("info", "Tell what the plug-in is");
+    const PresetCommandLine preset(app);
 
     checkCommand(app, arguments);
     try {
@@ -180,5 +185,9 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
         return params;
     if (infoCommand->parsed())
         return InfoOptions{};
+    if (auto presetOptions = preset.options()) {
+        return std::visit([](auto& chosen) { return CommandLine(std::move(chosen)); },
+                          *presetOptions);
+    }
     return renderOptions(texts);
 }

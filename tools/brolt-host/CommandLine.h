@@ -5,6 +5,7 @@
 #pragma once
 
 #include "tools/brolt-host/SampleEncoding.h"
+#include "tools/brolt-host/state/StateOptions.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -17,6 +18,7 @@ struct RenderOptions {
     std::vector<std::filesystem::path> files; ///< IN and OUT, or inputs alone with an output folder
     std::optional<std::filesystem::path> outputFolder;
     std::vector<std::string> settings; ///< "ID=VALUE" each
+    RenderStateOptions state;
     std::optional<std::filesystem::path> automation;
     std::int32_t blockSize = 512;
     std::optional<int> channels;
@@ -37,7 +39,8 @@ struct TextRequest {
     std::string text;
 };
 
-using CommandLine = std::variant<RenderOptions, ParamsOptions, InfoOptions, TextRequest>;
+using CommandLine = std::variant<RenderOptions, ParamsOptions, InfoOptions, PresetShowOptions,
+                                 PresetListOptions, PresetConvertOptions, TextRequest>;
 
 /// Throws HostError for options that are unknown, missing or impossible. [message thread]
 CommandLine parseCommandLine(const std::vector<std::string>& arguments);

@@ -36,8 +36,7 @@ public:
         , files(renderFiles)
         , reader(files.input)
         , channels(plan.channels.value_or(reader.channels()))
-        , renderer(std::make_unique<ModelRenderer>(channels, reader.sampleRate(), plan.blockSize,
-                                                   plan.settings))
+        , renderer(std::make_unique<ModelRenderer>(channels, reader.sampleRate(), plan))
         , schedule(plan.automation.changes, reader.sampleRate())
         , writer(files.output, {channels, reader.sampleRate(), plan.encoding}, reader.frames())
         , chunk(chunkLength(plan.blockSize))

@@ -2,21 +2,19 @@
 #include "tools/brolt-host/ModelRenderer.h"
 
 #include "brolt/model/QMBrolt_PlugIn.h"
+#include "tools/brolt-host/state/InstanceSettings.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-ModelRenderer::ModelRenderer(int channels, double sampleRate, std::int32_t blockSize,
-                             const std::vector<ParameterSetting>& settings)
+ModelRenderer::ModelRenderer(int channels, double sampleRate, const RenderPlan& plan)
     : host(&product.environment())
     , channelCount(channels) {
     host.setSampleRate(&sampleRate);
-    host.setBlockSize(blockSize);
-    instance = product.typeForChannels(channels).createAndRecordInstance();
+    host.setBlockSize(plan.blockSize);
+    instance = createInstance(product, channels, plan);
     brolt = dynamic_cast<const QMBrolt_PlugIn*>(instance.get());
-    for (const ParameterSetting& setting : settings)
-        instance->setParameterValue(setting.index, setting.value);
     instance->createProcessingState();
     instance->setProcessingHost(&host);
 }

@@ -6,22 +6,20 @@
 #pragma once
 
 #include "QMShell/hosting/QMShellPlugInProcessingHost.h"
-#include "tools/brolt-host/ParameterValueText.h"
 #include "tools/brolt-host/ProductModel.h"
+#include "tools/brolt-host/RenderPlan.h"
 #include "tools/brolt-host/Renderer.h"
 
 #include <memory>
-#include <vector>
 
 class QMBrolt_PlugIn;
 
 class ModelRenderer : public Renderer {
 public:
-    /// An instance for 1 or 2 channels with the settings made. They are made before the instance
-    /// gets its host and so its way to the processor: it then begins with one single record, and
-    /// the first block already works with it.
-    ModelRenderer(int channels, double sampleRate, std::int32_t blockSize,
-                  const std::vector<ParameterSetting>& settings);
+    /// An instance for 1 or 2 channels with the plan's records applied and settings made. That is
+    /// done before the instance gets its host and so its way to the processor: it then begins with
+    /// one single coefficient record, and the first block already works with it.
+    ModelRenderer(int channels, double sampleRate, const RenderPlan& plan);
 
     ~ModelRenderer() override;
 

@@ -8,6 +8,8 @@
 #include "tools/brolt-host/Messages.h"
 #include "tools/brolt-host/ProductModel.h"
 #include "tools/brolt-host/Utf8.h"
+#include "tools/brolt-host/state/InstanceSettings.h"
+#include "tools/brolt-host/state/StateFile.h"
 
 #include <array>
 #include <cstdio>
@@ -26,7 +28,7 @@ fs::path comparable(const fs::path& path) {
     return error ? whole.lexically_normal() : canonical;
 }
 
-void checkOutputsDiffer(const std::vector<RenderFiles>& all) {
+void checkOutputsDiffer(const std::vector<RenderFiles>& all, const RenderStateOptions& state) {
     std::map<fs::path, fs::path> owners; // output to the file it comes from
     const auto claim = [&](const std::optional<fs::path>& output, const fs::path& owner) {
         if (!output)
@@ -38,8 +40,10 @@ void checkOutputsDiffer(const std::vector<RenderFiles>& all) {
                                                  utf8FromPath(owner));
         }
     };
+    claim(state.savedState, "--save-state");
+    claim(state.savedPreset, "--save-preset");
     for (const RenderFiles& files : all) {
-        for (const auto& extra : {files.trace, files.plot}) {
+        for (const auto& extra : {files.trace, files.plot, state.savedState, state.savedPreset}) {
             if (extra && comparable(*extra) == comparable(files.input))
                 throw HostError::ofFile(*extra, "is the input file");
         }
@@ -52,6 +56,7 @@ void checkOutputsDiffer(const std::vector<RenderFiles>& all) {
 RenderPlan planOf(const RenderOptions& options) {
     ProductModel product;
     RenderPlan plan;
+    plan.records = readRecords(options.state);
     for (const std::string& text : options.settings) {
         plan.settings.push_back(parseAssignment(product.parameters(), text));
         if (!plan.settings.back().clampNotice.empty())
@@ -109,13 +114,14 @@ std::vector<RenderFiles> renderFilesOf(const RenderOptions& options) {
     } else {
         all.push_back({options.files.front(), options.files.back(), options.trace, options.plot});
     }
-    checkOutputsDiffer(all);
+    checkOutputsDiffer(all, options.state);
     return all;
 }
 
 int runRenderCommand(const RenderOptions& options) {
     const std::vector<RenderFiles> all = renderFilesOf(options);
     const RenderPlan plan = planOf(options);
+    saveSettings(plan, options.state);
     std::size_t failures = 0;
     for (const RenderFiles& files : all) {
         try {

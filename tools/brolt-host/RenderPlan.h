@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "presets/record/QMGenericPreset.h"
 #include "tools/brolt-host/Automation.h"
 #include "tools/brolt-host/SampleEncoding.h"
 
@@ -15,6 +16,7 @@
 
 /// The same for every file of a batch.
 struct RenderPlan {
+    std::vector<QMGenericPreset> records;   ///< applied first, one after the other
     std::vector<ParameterSetting> settings; ///< from the beginning on
     Automation automation;
     std::string automationName; ///< the automation file, for messages

@@ -11,6 +11,7 @@
 #include "tools/brolt-host/ProductReport.h"
 #include "tools/brolt-host/RenderCommand.h"
 #include "tools/brolt-host/Utf8.h"
+#include "tools/brolt-host/state/PresetCommand.h"
 
 #include <cstdio>
 #include <exception>
@@ -40,6 +41,12 @@ struct CommandRunner {
         print(productReport(product));
         return ExitStatus::success;
     }
+
+    int operator()(const PresetShowOptions& options) const { return runPresetShow(options); }
+
+    int operator()(const PresetListOptions& options) const { return runPresetList(options); }
+
+    int operator()(const PresetConvertOptions& options) const { return runPresetConvert(options); }
 
     int operator()(const TextRequest& request) const {
         print(request.text);

@@ -13,6 +13,13 @@ constexpr std::int32_t sustainIndex = 2;
 constexpr std::int32_t osc2EnableIndex = 7;
 constexpr std::int32_t gainIndex = 14;
 
+RenderPlan planOf(std::int32_t blockSize, std::vector<ParameterSetting> settings = {}) {
+    RenderPlan plan;
+    plan.blockSize = blockSize;
+    plan.settings = std::move(settings);
+    return plan;
+}
+
 void processSilence(ModelRenderer& renderer, int blocks, std::int32_t frames) {
     std::vector<float> silence(static_cast<std::size_t>(frames));
     std::vector<float> output(silence.size());
@@ -26,7 +33,7 @@ void processSilence(ModelRenderer& renderer, int blocks, std::int32_t frames) {
 
 TEST(ModelRenderer, theFirstBlockUsesTheFirstRecordAndThisHasVersionTwo) {
     for (const int channels : {1, 2}) {
-        ModelRenderer renderer(channels, 44100.0, 64, {});
+        ModelRenderer renderer(channels, 44100.0, planOf(64));
         EXPECT_EQ(renderer.recordInUse(), nullptr);
         processSilence(renderer, 1, 64);
         ASSERT_NE(renderer.recordInUse(), nullptr);
@@ -38,12 +45,12 @@ TEST(ModelRenderer, theFirstBlockUsesTheFirstRecordAndThisHasVersionTwo) {
 }
 
 TEST(ModelRenderer, settingsAreInTheFirstRecordHoweverManyThereAre) {
-    ModelRenderer renderer(1, 48000.0, 64,
-                           {{sustainIndex, 45.0, {}},
-                            {gainIndex, -20.0, {}},
-                            {gainIndex, 0.0, {}},
-                            {osc2EnableIndex, 0.0, {}},
-                            {gainIndex, -6.0, {}}});
+    ModelRenderer renderer(1, 48000.0,
+                           planOf(64, {{sustainIndex, 45.0, {}},
+                                       {gainIndex, -20.0, {}},
+                                       {gainIndex, 0.0, {}},
+                                       {osc2EnableIndex, 0.0, {}},
+                                       {gainIndex, -6.0, {}}}));
     processSilence(renderer, 1, 64);
     EXPECT_EQ(renderer.recordInUse()->meterVersion, 2);
     EXPECT_EQ(renderer.recordInUse()->osc2Gain, 0.0F);
@@ -51,8 +58,22 @@ TEST(ModelRenderer, settingsAreInTheFirstRecordHoweverManyThereAre) {
     EXPECT_EQ(renderer.parameter(sustainIndex), 45.0);
 }
 
+TEST(ModelRenderer, recordsAreAppliedBeforeTheSettingsAndMakeNoRecordOfTheirOwn) {
+    RenderPlan plan = planOf(64, {{gainIndex, -6.0, {}}});
+    QMGenericPreset record;
+    record.manufacturerCode = fourCharCode("QML ");
+    record.productCode = fourCharCode("BRLT");
+    record.values = {{fourCharCode("sfre"), 33.0}, {fourCharCode("gain"), 12.0}};
+    plan.records = {record};
+    ModelRenderer renderer(1, 44100.0, plan);
+    processSilence(renderer, 1, 64);
+    EXPECT_EQ(renderer.recordInUse()->meterVersion, 2);
+    EXPECT_EQ(renderer.parameter(sustainIndex), 33.0);
+    EXPECT_EQ(renderer.parameter(gainIndex), -6.0);
+}
+
 TEST(ModelRenderer, aChangeWhileItRunsIsUsedByTheNextBlock) {
-    ModelRenderer renderer(1, 44100.0, 64, {});
+    ModelRenderer renderer(1, 44100.0, planOf(64));
     processSilence(renderer, 3, 64);
     renderer.setParameter(gainIndex, 20.0);
     processSilence(renderer, 1, 64);
@@ -61,7 +82,7 @@ TEST(ModelRenderer, aChangeWhileItRunsIsUsedByTheNextBlock) {
 }
 
 TEST(ModelRenderer, oscillatorsAtRestReadTheirSustainFrequency) {
-    ModelRenderer renderer(2, 44100.0, 64, {});
+    ModelRenderer renderer(2, 44100.0, planOf(64));
     processSilence(renderer, 4, 64);
     const OscillatorReading reading = renderer.readOscillators();
     EXPECT_NEAR(reading.frequency[0], 60.0, 0.5);
@@ -73,13 +94,13 @@ TEST(ModelRenderer, oscillatorsAtRestReadTheirSustainFrequency) {
 TEST(ModelRenderer, frequenciesAreReadAsTheySoundAtTheHostsRate) {
     // Coefficients are those of 44.1 kHz at every rate: at twice the rate the tones are an octave
     // up.
-    ModelRenderer renderer(1, 88200.0, 64, {});
+    ModelRenderer renderer(1, 88200.0, planOf(64));
     processSilence(renderer, 4, 64);
     EXPECT_NEAR(renderer.readOscillators().frequency[0], 120.0, 1.0);
 }
 
 TEST(ModelRenderer, aDisabledOscillatorReadsNoLevel) {
-    ModelRenderer renderer(1, 44100.0, 4096, {{osc2EnableIndex, 0.0, {}}});
+    ModelRenderer renderer(1, 44100.0, planOf(4096, {{osc2EnableIndex, 0.0, {}}}));
     std::vector<float> noise = testAudio(1, 4096);
     float* channels[] = {noise.data()};
     renderer.process(channels, channels, 4096);

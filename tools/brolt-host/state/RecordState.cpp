@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/brolt-host/state/RecordState.h"
+
+#include "presets/record/PresetComparison.h"
+
+bool RecordState::applyStateRecord(const QMGenericPreset& applied) {
+    record = applied;
+    return true;
+}
+
+bool RecordState::equalsStateRecord(const QMGenericPreset& other) const {
+    return presetsAreEqual(record, other);
+}
+
+SettingLocator RecordState::currentPresetLocator() const {
+    return SettingLocator::ofUniqueId(record.uniqueId);
+}
