@@ -7,3 +7,4 @@
 void registerProcessorBenchmarks();
 void registerRotationBenchmark();
 void registerControlBenchmarks();
+void registerStateBenchmarks();

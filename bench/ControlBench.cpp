@@ -2,15 +2,10 @@
 //
 // What the control side costs: a record, a change on its way to the queue, a snapshot, an instance.
 
-#include "QMShell/hosting/NoxPlugInEnvironment.h"
-#include "QMShell/hosting/QMShellPlugInProcessingHost.h"
+#include "bench/BenchModel.h"
 #include "bench/Benchmarks.h"
-#include "brolt/model/QMBrolt_PlugInTypeGroup.h"
-#include "brolt/model/QMBrolt_ProductCodes.h"
 #include "brolt/signal/Brolt.h"
 #include "brolt/signal/tests/BroltTestKit.h"
-#include "plugin-model/INoxPlugIn.h"
-#include "plugin-model/INoxPlugInType.h"
 
 #include <array>
 #include <benchmark/benchmark.h>
@@ -38,24 +33,9 @@ void benchSnapshot(benchmark::State& state) {
     }
 }
 
-/// An environment with a host and the product's types.
-struct Model {
-    NoxPlugInEnvironment environment;
-    QMShellPlugInProcessingHost host{&environment};
-    QMBrolt_PlugInTypeGroup group{&environment};
-    INoxPlugInType& stereo = *group.typeOfIndex(QMBrolt::stereoTypeIndex);
-
-    std::unique_ptr<INoxPlugIn> newInstance() {
-        auto instance = stereo.createAndRecordInstance();
-        instance->createProcessingState();
-        instance->setProcessingHost(&host);
-        return instance;
-    }
-};
-
 void benchParameterChange(benchmark::State& state) {
     constexpr std::int32_t outputGain = 14;
-    Model model;
+    BenchModel model;
     const auto instance = model.newInstance();
     double decibels = 0.0;
     for (auto unused : state) {
@@ -67,7 +47,7 @@ void benchParameterChange(benchmark::State& state) {
 }
 
 void benchInstance(benchmark::State& state) {
-    Model model;
+    BenchModel model;
     for (auto unused : state) {
         (void)unused;
         const auto instance = model.newInstance();

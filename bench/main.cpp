@@ -10,6 +10,7 @@ int main(int argc, char** argv) {
     registerProcessorBenchmarks();
     registerRotationBenchmark();
     registerControlBenchmarks();
+    registerStateBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -28,7 +28,7 @@ Answer answerOfLastError() {
     }
 }
 
-bool exists(const fs::path& path) {
+bool isTaken(const fs::path& path) {
     return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
@@ -48,7 +48,7 @@ bool replaceOnce(const fs::path& newFile, const fs::path& oldFile) {
     // fail. The other call serves file systems that know no replacing, and places still empty.
     constexpr DWORD tolerant =
         REPLACEFILE_IGNORE_MERGE_ERRORS | 4 /* REPLACEFILE_IGNORE_ACL_ERRORS */;
-    if (exists(oldFile) &&
+    if (isTaken(oldFile) &&
         ReplaceFileW(oldFile.c_str(), newFile.c_str(), nullptr, tolerant, nullptr, nullptr) != 0)
         return true;
     return MoveFileExW(newFile.c_str(), oldFile.c_str(),
