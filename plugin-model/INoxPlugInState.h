@@ -8,9 +8,11 @@
 #include "presets/record/SettingLocator.h"
 
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <vector>
 
+struct NoxPlugInSnapshot;
 struct QMGenericPreset;
 
 /// How much of an instance a settings record holds.
@@ -47,6 +49,11 @@ public:
     [[nodiscard]] virtual std::vector<std::byte> getFactoryState() const = 0;
     /// Like applyStateRecord; false for bytes that are no record of this product.
     virtual bool applyParameterState(std::span<const std::byte> bytes) = 0;
+
+    /// Puts the complete settings aside.
+    [[nodiscard]] virtual std::unique_ptr<NoxPlugInSnapshot> captureSettings() const = 0;
+    /// Brings them back; false, and nothing has changed, for those of another product.
+    virtual bool restoreSettings(const NoxPlugInSnapshot& settings) = 0;
 
     /// The preset the current settings came from.
     [[nodiscard]] virtual SettingLocator currentPresetLocator() const = 0;

@@ -198,6 +198,8 @@ public:
     [[nodiscard]] std::vector<std::byte> getParameterState() const override;
     [[nodiscard]] std::vector<std::byte> getFactoryState() const override;
     bool applyParameterState(std::span<const std::byte> bytes) override;
+    [[nodiscard]] std::unique_ptr<NoxPlugInSnapshot> captureSettings() const override;
+    bool restoreSettings(const NoxPlugInSnapshot& settings) override;
     [[nodiscard]] SettingLocator currentPresetLocator() const override;
     void setCurrentPresetLocator(const SettingLocator& locator) override;
     [[nodiscard]] std::uint64_t currentPresetId() const override;

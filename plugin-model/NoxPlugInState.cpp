@@ -4,6 +4,7 @@
 #include "plugin-model/INoxPlugInType.h"
 #include "plugin-model/INoxPlugInTypeGroup.h"
 #include "plugin-model/NoxPlugIn.h"
+#include "plugin-model/NoxPlugInSnapshot.h"
 #include "plugin-model/QMParameterValues.h"
 #include "plugin-model/records/ParameterStateRecord.h"
 #include "presets/record/PresetIdentity.h"
@@ -116,6 +117,18 @@ bool NoxPlugIn::takeDefaultValues(std::span<const std::byte> bytes) {
         return false;
     const std::size_t count = std::min(record->values.size(), defaultValues.size());
     std::copy_n(record->values.begin(), count, defaultValues.begin());
+    return true;
+}
+
+std::unique_ptr<NoxPlugInSnapshot> NoxPlugIn::captureSettings() const {
+    return std::make_unique<NoxPlugInSnapshot>(
+        NoxPlugInSnapshot{getStateRecord(StateExtent::complete), currentPresetLocator()});
+}
+
+bool NoxPlugIn::restoreSettings(const NoxPlugInSnapshot& settings) {
+    if (!applyStateRecord(settings.record))
+        return false;
+    setCurrentPresetLocator(settings.locator);
     return true;
 }
 

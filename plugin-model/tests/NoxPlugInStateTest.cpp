@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // An instance saved and restored: records, the current preset, undo texts, event sources.
+#include "plugin-model/NoxPlugInSnapshot.h"
 #include "plugin-model/tests/StubEnvironment.h"
 #include "plugin-model/tests/TestPlugInModel.h"
 #include "presets/record/QMGenericPreset.h"
+#include "presets/record/QMPresetHolder.h"
 
 #include <gtest/gtest.h>
 
@@ -162,6 +164,19 @@ TEST_F(InstanceState, undoBringsTheLocatorBackToo) {
     plugIn.setCurrentPresetLocator(SettingLocator::ofUniqueId(second.uniqueId));
     plugIn.undo();
     EXPECT_EQ(plugIn.currentPresetLocator(), first);
+}
+
+TEST_F(InstanceState, settingsThatWerePutAsideComeBackWithTheirPreset) {
+    plugIn.applyStateRecord(record(7.0));
+    plugIn.setCurrentPresetLocator({0x20000u, 3, 1, 0});
+    const QMPresetHolder<NoxPlugInSnapshot> holder(plugIn.captureSettings());
+    plugIn.applyStateRecord(record(9.0));
+    plugIn.selectSnapshot(0, QM::SnapshotMode::store);
+    ASSERT_TRUE(plugIn.restoreSettings(holder.settings()));
+    EXPECT_EQ(plugIn.parameterValue(0), 7.0);
+    EXPECT_EQ(plugIn.activeSnapshot(), -1);
+    EXPECT_EQ(plugIn.currentPresetLocator(), (SettingLocator{0x20000u, 3, 1, 0}));
+    EXPECT_FALSE(plugIn.restoreSettings({}));
 }
 
 TEST_F(InstanceState, menuTextsJoinTheWordToTheDescription) {

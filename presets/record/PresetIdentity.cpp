@@ -27,6 +27,7 @@ std::uint64_t ofContent(const QMGenericPreset& preset) {
     for (const auto& [id, value] : preset.values)
         hash = (hash + std::bit_cast<std::uint64_t>(value)) * multiplier;
     for (const char character : preset.name) {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): bytes beyond ASCII count as negative
         const auto extended = static_cast<std::int64_t>(static_cast<signed char>(character));
         hash = (hash + static_cast<std::uint64_t>(extended)) * multiplier;
     }

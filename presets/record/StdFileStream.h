@@ -11,7 +11,7 @@
 class StdFileStream : public QMGenericPresetStream {
 public:
     /// Takes a handle over and closes it when destroyed; null makes a stream that is not open.
-    explicit StdFileStream(std::FILE* file);
+    explicit StdFileStream(std::FILE* handle);
     /// Opens a path (UTF-8) with a mode of fopen. What is not a plain file (a pipe would block, a
     /// device would answer without end) is not opened.
     StdFileStream(const std::string& path, const char* mode);

@@ -35,6 +35,8 @@ public:
 
     bool applyParameterState(std::span<const std::byte>) override { return false; }
 
+    [[nodiscard]] std::unique_ptr<NoxPlugInSnapshot> captureSettings() const override;
+    bool restoreSettings(const NoxPlugInSnapshot& settings) override;
     [[nodiscard]] SettingLocator currentPresetLocator() const override;
 
     void setCurrentPresetLocator(const SettingLocator&) override {}

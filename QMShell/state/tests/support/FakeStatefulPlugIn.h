@@ -3,6 +3,7 @@
 #pragma once
 
 #include "plugin-model/INoxPlugInState.h"
+#include "plugin-model/NoxPlugInSnapshot.h"
 #include "presets/record/QMGenericPreset.h"
 
 #include <string>
@@ -34,6 +35,12 @@ public:
     [[nodiscard]] std::vector<std::byte> getFactoryState() const override { return {}; }
 
     bool applyParameterState(std::span<const std::byte>) override { return false; }
+
+    [[nodiscard]] std::unique_ptr<NoxPlugInSnapshot> captureSettings() const override {
+        return nullptr;
+    }
+
+    bool restoreSettings(const NoxPlugInSnapshot&) override { return false; }
 
     [[nodiscard]] SettingLocator currentPresetLocator() const override { return {}; }
 
