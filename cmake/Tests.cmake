@@ -45,12 +45,13 @@ function(brolt_register_test kind name)
 endfunction()
 
 # brolt_add_test_executable(NAME <target> SOURCES <file>... LINKS <target>...
-#                           [DEFINITIONS <definition>...] [CONCURRENCY] [NATIVE_ONLY])
+#                           [DEFINITIONS <definition>...] [CONCURRENCY] [NATIVE_ONLY] [OPTIMISED])
 #
 # One GoogleTest executable. CONCURRENCY: runs under the thread sanitizer too. NATIVE_ONLY: exists
-# in the native release build alone.
+# in the native release build alone. OPTIMISED: the tests themselves compute much and are compiled
+# as what they test; others are not optimised, which takes half the time to compile.
 function(brolt_add_test_executable)
-    cmake_parse_arguments(PARSE_ARGV 0 arg "CONCURRENCY;NATIVE_ONLY" "NAME" "SOURCES;LINKS;DEFINITIONS")
+    cmake_parse_arguments(PARSE_ARGV 0 arg "CONCURRENCY;NATIVE_ONLY;OPTIMISED" "NAME" "SOURCES;LINKS;DEFINITIONS")
     if(NOT BROLT_TESTS_AVAILABLE OR NOT arg_SOURCES)
         return()
     endif()
@@ -64,6 +65,9 @@ function(brolt_add_test_executable)
     add_executable(${arg_NAME} ${arg_SOURCES})
     target_link_libraries(${arg_NAME} PRIVATE brolt_settings ${arg_LINKS} gmock_main gmock gtest)
     target_compile_definitions(${arg_NAME} PRIVATE ${arg_DEFINITIONS})
+    if(NOT arg_OPTIMISED)
+        target_compile_options(${arg_NAME} PRIVATE -O0 -g1)
+    endif()
 
     set(labels unit)
     if(arg_CONCURRENCY)
@@ -73,25 +77,29 @@ function(brolt_add_test_executable)
         COMMAND ${BROLT_LAUNCHER} "$<TARGET_FILE:${arg_NAME}>")
 endfunction()
 
-# brolt_add_tests(NAME <prefix> LINKS <target>... [DEFINITIONS <definition>...])
+# brolt_add_tests(NAME <prefix> LINKS <target>... [DEFINITIONS <definition>...] [OPTIMISED])
 #
 # The test executables of the current folder's tests/: <prefix>_tests, <prefix>_concurrency_tests
 # and <prefix>_audio_thread_tests, each as far as it has sources.
 function(brolt_add_tests)
-    cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME" "LINKS;DEFINITIONS")
+    cmake_parse_arguments(PARSE_ARGV 0 arg "OPTIMISED" "NAME" "LINKS;DEFINITIONS")
+    set(optimised "")
+    if(arg_OPTIMISED)
+        set(optimised OPTIMISED)
+    endif()
 
     brolt_collect_sources(OUT unit PATTERNS "tests/*.h" "tests/*.cpp"
         EXCLUDE "^tests/concurrency/" "^tests/audio_thread/")
     brolt_add_test_executable(NAME ${arg_NAME}_tests SOURCES ${unit}
-        LINKS ${arg_LINKS} DEFINITIONS ${arg_DEFINITIONS})
+        LINKS ${arg_LINKS} DEFINITIONS ${arg_DEFINITIONS} ${optimised})
 
     brolt_collect_sources(OUT concurrency PATTERNS "tests/concurrency/*.h" "tests/concurrency/*.cpp")
     brolt_add_test_executable(NAME ${arg_NAME}_concurrency_tests SOURCES ${concurrency}
-        LINKS ${arg_LINKS} DEFINITIONS ${arg_DEFINITIONS} CONCURRENCY)
+        LINKS ${arg_LINKS} DEFINITIONS ${arg_DEFINITIONS} CONCURRENCY ${optimised})
 
     brolt_collect_sources(OUT audioThread PATTERNS "tests/audio_thread/*.h" "tests/audio_thread/*.cpp")
     brolt_add_test_executable(NAME ${arg_NAME}_audio_thread_tests SOURCES ${audioThread}
-        LINKS ${arg_LINKS} brolt_test_support DEFINITIONS ${arg_DEFINITIONS} NATIVE_ONLY)
+        LINKS ${arg_LINKS} brolt_test_support DEFINITIONS ${arg_DEFINITIONS} NATIVE_ONLY ${optimised})
 endfunction()
 
 # brolt_add_script_tests(NAME <prefix> PROGRAM <target>)

@@ -23,7 +23,7 @@ public:
     /// One step into a folder (path in UTF-8) and, with its end, out again.
     class Step {
     public:
-        Step(FolderTrail& trail, const std::string& path);
+        Step(FolderTrail& of, const std::string& path);
         ~Step();
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;

@@ -19,9 +19,10 @@ namespace PresetFileWriter {
 /// survives a power cut; false leaves things as they were. [message thread]
 bool save(const std::string& path, const QMGenericPreset& record);
 
-/// The same for a file that is there already; a missing one stays missing. Survives the end of the
-/// process, not a power cut: for what is done again when it is lost, and for thousands of files at
-/// once. [message thread]
+/// The same for a file that is there already; a missing one stays missing. An identifier that is
+/// all that changes is written where it lies, in one piece. Survives the end of the process, not a
+/// power cut: for what is done again when it is lost, and for thousands of files at once. [message
+/// thread]
 bool updateExisting(const std::string& path, const QMGenericPreset& record);
 
 } // namespace PresetFileWriter

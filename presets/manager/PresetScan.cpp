@@ -47,11 +47,16 @@ void PresetScan::scanInto(QMPresetFolder& folder) {
         iterator->current(name, isDirectory);
         if (isDirectory)
             addFolder(folder, name);
-        else if (!PresetFileNames::isTemporary(name) &&
-                 (filter == nullptr || filter->accept(path + "/" + name)))
+        else if (isPreset(path, name))
             addFile(folder, name);
     }
     folder.sortChildren();
+}
+
+bool PresetScan::isPreset(const std::string& folder, const std::string& name) const {
+    if (PresetFileNames::isTemporary(name))
+        return false;
+    return filter == nullptr || filter->accept(std::string(folder).append("/").append(name));
 }
 
 void PresetScan::addFolder(QMPresetFolder& parent, const std::string& name) {

@@ -13,8 +13,7 @@
 class PresetScan {
 public:
     /// Without a filter every file is a preset.
-    PresetScan(const DirectoryIteratorFactory& makeIterator,
-               QMGenericPresetManager::Filter* filter);
+    PresetScan(const DirectoryIteratorFactory& iterators, QMGenericPresetManager::Filter* accepted);
 
     /// Folders that are missing or cannot be read are empty. [message thread]
     [[nodiscard]] PresetTree scan(const PresetFolders& folders);
@@ -23,6 +22,7 @@ private:
     std::unique_ptr<QMPresetFolder> scanRoot(const std::string& name, const std::string& path,
                                              bool isFactory);
     void scanInto(QMPresetFolder& folder);
+    [[nodiscard]] bool isPreset(const std::string& folder, const std::string& name) const;
     void addFolder(QMPresetFolder& parent, const std::string& name);
     void addFile(QMPresetFolder& parent, const std::string& name);
     void identify(QMPresetItem& preset);

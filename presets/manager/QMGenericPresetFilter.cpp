@@ -21,7 +21,8 @@ bool QMGenericPresetFilter::accept(const std::string& path) {
     StdFileStream stream(path, "rb");
     if (!stream.isOpen())
         return false;
-    const std::optional<GenericPresetHeader> header = readGenericPresetHeader(stream);
+    const std::optional<GenericPresetHeader> header =
+        readGenericPresetHeader(stream, UndecodableExtension::drop);
     return header && manufacturers.match(header->preset.manufacturerCode) &&
            products.match(header->preset.productCode) && variants.match(header->preset.variantCode);
 }

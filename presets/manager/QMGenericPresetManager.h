@@ -31,8 +31,8 @@ public:
     };
 
     /// Without a filter every file is a preset. The trees stay empty until the first rescan.
-    explicit QMGenericPresetManager(DirectoryIteratorFactory makeIterator,
-                                    std::unique_ptr<Filter> filter = nullptr);
+    explicit QMGenericPresetManager(DirectoryIteratorFactory iterators,
+                                    std::unique_ptr<Filter> accepted = nullptr);
     ~QMGenericPresetManager() override;
 
     // ---- Settings, which hold from the next rescan on

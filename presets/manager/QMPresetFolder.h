@@ -8,7 +8,7 @@
 
 class QMPresetFolder : public QMPresetItem {
 public:
-    explicit QMPresetFolder(Origin origin);
+    explicit QMPresetFolder(Origin from);
     ~QMPresetFolder() override;
 
     [[nodiscard]] bool isFolder() const override { return true; }

@@ -45,7 +45,7 @@ QMGenericPreset* QMPresetItem::record() {
     StdFileStream stream(path(), "rb");
     if (!stream.isOpen())
         return nullptr;
-    std::optional<QMGenericPreset> read = readGenericPreset(stream);
+    std::optional<QMGenericPreset> read = readGenericPreset(stream, UndecodableExtension::drop);
     sound = read.has_value();
     record_ = std::make_unique<QMGenericPreset>(std::move(read).value_or(QMGenericPreset()));
     return record_.get();

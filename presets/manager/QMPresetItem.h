@@ -25,7 +25,7 @@ public:
         std::uint32_t creationIndex = 0; ///< place in scan order, from 1; 0 for folders
     };
 
-    explicit QMPresetItem(Origin origin);
+    explicit QMPresetItem(Origin from);
     virtual ~QMPresetItem();
     QMPresetItem(const QMPresetItem&) = delete;
     QMPresetItem& operator=(const QMPresetItem&) = delete;

@@ -18,8 +18,8 @@ std::uint64_t randomNumber() {
 
 } // namespace
 
-ReplacementFile::ReplacementFile(std::filesystem::path of)
-    : target(std::move(of)) {}
+ReplacementFile::ReplacementFile(std::filesystem::path toReplace)
+    : target(std::move(toReplace)) {}
 
 ReplacementFile::~ReplacementFile() {
     file.reset(); // an open file cannot go everywhere

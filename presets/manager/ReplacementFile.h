@@ -13,7 +13,7 @@ class ReplacementFile {
 public:
     using Answer = FileReplacement::Answer;
 
-    explicit ReplacementFile(std::filesystem::path target);
+    explicit ReplacementFile(std::filesystem::path toReplace);
     ~ReplacementFile();
     ReplacementFile(const ReplacementFile&) = delete;
     ReplacementFile& operator=(const ReplacementFile&) = delete;

@@ -143,7 +143,8 @@ bool writeGenericPreset(const QMGenericPreset& preset, QMGenericPresetStream& st
     return writer.complete();
 }
 
-std::optional<GenericPresetHeader> readGenericPresetHeader(QMGenericPresetStream& stream) {
+std::optional<GenericPresetHeader> readGenericPresetHeader(QMGenericPresetStream& stream,
+                                                           UndecodableExtension undecodable) {
     GenericPresetHeader header;
     std::uint32_t version = 0;
     if (!readFixedWords(stream, version, header.preset) || !readName(stream, header.preset.name) ||
@@ -151,7 +152,8 @@ std::optional<GenericPresetHeader> readGenericPresetHeader(QMGenericPresetStream
         return std::nullopt;
     if (version >= firstVersionWithUniqueId && !readUniqueId(stream, header.preset.uniqueId))
         return std::nullopt;
-    if (version >= firstVersionWithExtension && !readExtension(stream, header.preset.extension))
+    if (version >= firstVersionWithExtension && !readExtension(stream, header.preset.extension) &&
+        undecodable == UndecodableExtension::refuse)
         return std::nullopt;
     return header;
 }
@@ -168,8 +170,9 @@ QMGenericPreset readGenericPresetValues(QMGenericPresetStream& stream, GenericPr
     return std::move(header.preset);
 }
 
-std::optional<QMGenericPreset> readGenericPreset(QMGenericPresetStream& stream) {
-    std::optional<GenericPresetHeader> header = readGenericPresetHeader(stream);
+std::optional<QMGenericPreset> readGenericPreset(QMGenericPresetStream& stream,
+                                                 UndecodableExtension undecodable) {
+    std::optional<GenericPresetHeader> header = readGenericPresetHeader(stream, undecodable);
     if (!header)
         return std::nullopt;
     return readGenericPresetValues(stream, std::move(*header));

@@ -32,6 +32,14 @@ constexpr std::int32_t valueEntrySize = 12;
 
 } // namespace GenericPresetFormat
 
+/// What becomes of a record whose extension cannot be decoded.
+enum class UndecodableExtension {
+    refuse, ///< there is no record: a host's project came back damaged
+    /// The extension reads as null. A preset that was updated in place by a shorter record may have
+    /// its new end over the beginning of its old extension; the sound in it must not be lost.
+    drop,
+};
+
 /// Writes a record, version 2 with a MessagePack extension, to an open stream; a stream that is not
 /// open is left alone. False when something could not be written. [any thread]
 bool writeGenericPreset(const QMGenericPreset& preset, QMGenericPresetStream& stream);
@@ -43,10 +51,11 @@ struct GenericPresetHeader {
 };
 
 /// Reads everything but the values. Nothing when the stream does not begin with the magic, is too
-/// short for what it announces, or has an extension that cannot be decoded; an extension of another
-/// type than MessagePack and JSON reads as null. [any thread]
+/// short for what it announces, or has an extension that cannot be decoded (as asked); an extension
+/// of another type than MessagePack and JSON reads as null. [any thread]
 [[nodiscard]] std::optional<GenericPresetHeader>
-readGenericPresetHeader(QMGenericPresetStream& stream);
+readGenericPresetHeader(QMGenericPresetStream& stream,
+                        UndecodableExtension undecodable = UndecodableExtension::refuse);
 
 /// Reads as many values as the header counts, or as the stream still holds when these are fewer. A
 /// repeated identifier replaces the earlier value. [any thread]
@@ -54,4 +63,6 @@ readGenericPresetHeader(QMGenericPresetStream& stream);
                                                       GenericPresetHeader header);
 
 /// Header and values. [any thread]
-[[nodiscard]] std::optional<QMGenericPreset> readGenericPreset(QMGenericPresetStream& stream);
+[[nodiscard]] std::optional<QMGenericPreset>
+readGenericPreset(QMGenericPresetStream& stream,
+                  UndecodableExtension undecodable = UndecodableExtension::refuse);

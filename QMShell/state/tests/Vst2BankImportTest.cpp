@@ -164,6 +164,19 @@ public:
     void restoreParameter(FourCharCode, double) override { throw std::runtime_error("no"); }
 };
 
+/// Counts the bytes it gives.
+class MeasuredStream : public StateMemoryStream {
+public:
+    using StateMemoryStream::StateMemoryStream;
+    std::size_t given = 0;
+
+    [[nodiscard]] std::size_t read(std::size_t size, void* destination) override {
+        const std::size_t count = StateMemoryStream::read(size, destination);
+        given += count;
+        return count;
+    }
+};
+
 /// Cannot tell where it is, or cannot go there; and must not be read then.
 class FixedStream : public StateMemoryStream {
 public:
@@ -200,4 +213,10 @@ TEST_F(Vst2BankImportTest, aStreamThatCannotBePutBackIsNotTouched) {
         EXPECT_EQ(stream.reads, 0);
         EXPECT_TRUE(sink.entries.empty());
     }
+}
+
+TEST_F(Vst2BankImportTest, anEnvelopeIsReadNoFurtherThanABanksMagicWouldBe) {
+    MeasuredStream stream(encodeVst3({0, encodeRecord(exampleRecord())}));
+    EXPECT_FALSE(importVst2Bank(stream, {sink}));
+    EXPECT_EQ(stream.given, 4u);
 }

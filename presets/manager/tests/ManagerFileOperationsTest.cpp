@@ -3,6 +3,10 @@
 #include "presets/manager/tests/PresetTreeTest.h"
 #include "presets/manager/tests/UnprivilegedChild.h"
 
+#ifdef _WIN32
+#    include <windows.h>
+#endif
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -50,6 +54,10 @@ TEST_F(ManagerFileOperationsTest, renamingToItsOwnNameChangesNothing) {
 }
 
 TEST_F(ManagerFileOperationsTest, capitalsOfANameCanBeChanged) {
+#ifdef _WIN32
+    if (GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr)
+        GTEST_SKIP() << "Wine reports such a change done and does nothing";
+#endif
     EXPECT_TRUE(manager.renamePreset(userRoot, 0, "A"));
     EXPECT_EQ(namesIn(user), (Names{"A.qmpreset", "Kicks", "b.qmpreset"}));
     EXPECT_TRUE(desktop.trashed.empty());

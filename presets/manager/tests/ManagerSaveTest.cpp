@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Saving: over a preset, under a new name, over a factory preset.
+#include "presets/manager/QMGenericPresetFilter.h"
 #include "presets/manager/tests/PresetTreeTest.h"
 #include "presets/manager/tests/UnprivilegedChild.h"
 
@@ -36,6 +37,28 @@ TEST_F(ManagerSaveTest, aUserPresetIsWrittenOverAndKeepsItsIdentifier) {
     EXPECT_EQ(manager.presetName(idSelector, 99), "");
 }
 
+TEST_F(ManagerSaveTest, aRecordThatEndsInsideItsOldExtensionKeepsItsSound) {
+    QMGenericPreset large = record("Sample", 100.0);
+    large.uniqueId = idOf(4);
+    large.extension = {{"text", std::string(60, 'x')}};
+    manager.rescan();
+    ASSERT_TRUE(manager.savePresetAs(userRoot, "a", large));
+    const auto sizeBefore = fs::file_size(user / "a.qmpreset");
+    ASSERT_TRUE(manager.savePreset(userRoot, 0, record("Sample", 120.0)));
+    EXPECT_EQ(fs::file_size(user / "a.qmpreset"), sizeBefore) << "the old end stays";
+
+    // What the old end announces cannot be decoded any more. The preset is there all the same.
+    auto filter = std::make_unique<QMGenericPresetFilter>(code("QML "), code("BRLT"), code("****"));
+    filter->setMatchAnyVariant(true);
+    manager.setFilter(std::move(filter));
+    manager.rescan();
+    const QMGenericPreset* const read = manager.loadPreset(userRoot, 0);
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(read->values.at(code("afre")), 120.0);
+    EXPECT_EQ(read->uniqueId, idOf(4));
+    EXPECT_TRUE(read->extension.is_null());
+}
+
 TEST_F(ManagerSaveTest, aPresetIsFoundByItsIdentifierForSavingToo) {
     writePreset(user / "Mine" / "a.qmpreset", 4);
     manager.rescan();
@@ -64,6 +87,17 @@ TEST_F(ManagerSaveTest, aShorterRecordKeepsTheOldEndAndIsReadWithIt) {
     EXPECT_EQ(read->values.at(code("afre")), 120.0);
     EXPECT_EQ(read->extension, nlohmann::json({{"k", 7}}));
     EXPECT_EQ(read->uniqueId, idOf(4));
+}
+
+TEST_F(ManagerSaveTest, aRecordThatLostItsExtensionIsFollowedByTheEndOfTheOldOne) {
+    PresetBytes old = withId(idOf(4));
+    old.extension = "\xB4" + std::string(20, 'x'); // a text of twenty characters
+    writeFile(user / "a.qmpreset", old.bytes());
+    manager.rescan();
+    EXPECT_TRUE(manager.savePreset(userRoot, 0, record("Sample", 120.0)));
+    const std::string written = bytesOf("Sample", 120.0, idOf(4)).bytes();
+    EXPECT_EQ(readFile(user / "a.qmpreset"), written + old.bytes().substr(written.size()));
+    EXPECT_EQ(idAtEndOf(user / "a.qmpreset"), idOf(4));
 }
 
 TEST_F(ManagerSaveTest, aFactoryPresetIsCopiedIntoTheUserRoot) {

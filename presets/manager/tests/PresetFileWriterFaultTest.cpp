@@ -156,14 +156,16 @@ TEST_F(PresetFileWriterFaultTest, aDiskThatFillsUpWhileAFileIsWrittenInPlaceGive
 }
 
 TEST_F(PresetFileWriterFaultTest, aKilledProcessLeavesTheOldFileOrTheNewOne) {
-    // The child writes records of two lengths in turn as fast as it can.
+    // The child writes records of two lengths in turn as fast as it can. Large ones: a kill finds
+    // the system inside a write of many pages and stops it there.
+    constexpr std::size_t largeName = 1000000;
     const std::set<std::string> whole = {
-        bytesOf("old", 0).bytes(), bytesOf("first", 20000).bytes(),
+        bytesOf("old", 0).bytes(), bytesOf("first", largeName).bytes(),
         // The shorter one over the longer.
         bytesOf("second", 100).bytes() +
-            bytesOf("first", 20000).bytes().substr(bytesOf("second", 100).bytes().size())};
+            bytesOf("first", largeName).bytes().substr(bytesOf("second", 100).bytes().size())};
     const auto writePair = [this] {
-        PresetFileWriter::save(file, record("first", 20000));
+        PresetFileWriter::save(file, record("first", largeName));
         PresetFileWriter::updateExisting(file, record("second", 100));
     };
     // From before the first write to well into the next ones, however slow the disk is now.
