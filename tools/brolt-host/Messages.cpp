@@ -3,16 +3,19 @@
 
 #include <cstdio>
 
-std::string messageLine(const std::string& text) {
+std::string printableText(std::string text) {
     constexpr unsigned char firstPrintable = 0x20;
     constexpr unsigned char deleteCharacter = 0x7f;
-    std::string line = "brolt-host: " + text;
-    for (char& c : line) {
+    for (char& c : text) {
         const auto byte = static_cast<unsigned char>(c);
         if (byte < firstPrintable || byte == deleteCharacter)
             c = '?';
     }
-    return line;
+    return text;
+}
+
+std::string messageLine(const std::string& text) {
+    return printableText("brolt-host: " + text);
 }
 
 void printMessage(const std::string& text) {

@@ -6,8 +6,11 @@
 
 #include <string>
 
-/// Prints "brolt-host: <text>". Control characters, which a file name may well contain, become
-/// question marks, so that a message stays one line. [message thread]
+/// The text with question marks in the place of control characters, which names of files and
+/// presets may well contain: a line stays a line, and nothing paints on the terminal. [any thread]
+std::string printableText(std::string text);
+
+/// Prints "brolt-host: <text>", printable. [message thread]
 void printMessage(const std::string& text);
 
 /// The text of printMessage, without its line end. [any thread]

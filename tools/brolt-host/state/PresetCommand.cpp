@@ -2,6 +2,7 @@
 #include "tools/brolt-host/state/PresetCommand.h"
 
 #include "tools/brolt-host/ExitStatus.h"
+#include "tools/brolt-host/Messages.h"
 #include "tools/brolt-host/ProductModel.h"
 #include "tools/brolt-host/state/PresetListing.h"
 #include "tools/brolt-host/state/PresetReport.h"
@@ -18,13 +19,8 @@ void print(const std::string& text) {
 /// Names of files may hold anything; a row stays a row.
 std::vector<TextRow> withoutControlCharacters(std::vector<TextRow> rows) {
     for (TextRow& row : rows) {
-        for (std::string& cell : row) {
-            for (char& c : cell) {
-                const auto byte = static_cast<unsigned char>(c);
-                if (byte < ' ' || byte == 0x7F)
-                    c = '?';
-            }
-        }
+        for (std::string& cell : row)
+            cell = printableText(std::move(cell));
     }
     return rows;
 }

@@ -2,6 +2,7 @@
 #include "tools/brolt-host/state/PresetReport.h"
 
 #include "plugin-model/NumberText.h"
+#include "tools/brolt-host/Messages.h"
 #include "tools/brolt-host/ParameterReport.h"
 #include "tools/brolt-host/TextTable.h"
 
@@ -27,17 +28,6 @@ std::string codeText(FourCharCode code) {
     return "'" + characters + "'";
 }
 
-/// Control characters would let a file paint on the terminal.
-std::string printable(const std::string& text) {
-    std::string result = text;
-    for (char& c : result) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < ' ' || byte == 0x7F)
-            c = '?';
-    }
-    return result;
-}
-
 TextRow valueRow(FourCharCode id, double value, const QM::IQMParameterSet& parameters) {
     const std::int32_t index = parameters.indexOfID(id);
     if (index < 0)
@@ -52,7 +42,7 @@ std::string presetReport(const StateFile& file, const QM::IQMParameterSet& param
     const QMGenericPreset& record = file.record;
     std::string report =
         alignedTable({{"Form", stateFormName(file.form)},
-                      {"Name", record.name.empty() ? "(none)" : printable(record.name)},
+                      {"Name", record.name.empty() ? "(none)" : printableText(record.name)},
                       {"Maker", codeText(record.manufacturerCode)},
                       {"Product", codeText(record.productCode)},
                       {"Variant", codeText(record.variantCode)},
