@@ -2,7 +2,7 @@
 #include "presets/manager/FileIdentity.h"
 
 #ifdef _WIN32
-#    include "presets/manager/Utf8Path.h"
+#    include "presets/record/Utf8Path.h"
 
 #    include <windows.h>
 

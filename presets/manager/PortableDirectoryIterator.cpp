@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presets/manager/PortableDirectoryIterator.h"
 
-#include "presets/manager/Utf8Path.h"
+#include "presets/record/Utf8Path.h"
 
 #include <filesystem>
 #include <juce_core/juce_core.h>

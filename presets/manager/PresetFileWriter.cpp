@@ -2,10 +2,10 @@
 #include "presets/manager/PresetFileWriter.h"
 
 #include "presets/manager/ReplacementFile.h"
-#include "presets/manager/Utf8Path.h"
 #include "presets/record/GenericPresetFormat.h"
 #include "presets/record/MemoryStream.h"
 #include "presets/record/StdFileStream.h"
+#include "presets/record/Utf8Path.h"
 
 #include <algorithm>
 #include <span>

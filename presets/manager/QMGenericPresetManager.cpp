@@ -3,7 +3,7 @@
 
 #include "presets/manager/PresetDesktop.h"
 #include "presets/manager/PresetScan.h"
-#include "presets/manager/Utf8Path.h"
+#include "presets/record/Utf8Path.h"
 
 #include <system_error>
 #include <utility>

@@ -4,7 +4,7 @@
 #include "presets/manager/PresetFileNames.h"
 #include "presets/manager/PresetFileWriter.h"
 #include "presets/manager/QMGenericPresetManager.h"
-#include "presets/manager/Utf8Path.h"
+#include "presets/record/Utf8Path.h"
 
 #include <system_error>
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presets/record/StdFileStream.h"
 
+#include "presets/record/Utf8Path.h"
+
 #include <filesystem>
 #include <limits>
 #include <system_error>
@@ -8,14 +10,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path pathFromUtf8(const std::string& text) {
-#ifdef _WIN32
-    return {std::u8string(text.begin(), text.end())};
-#else
-    return {text}; // bytes stay bytes: a name need not be valid UTF-8
-#endif
-}
 
 std::FILE* openPlainFile(const std::string& text, const char* mode) {
     try {

@@ -78,12 +78,6 @@ void addRender(CLI::App& app, RenderTexts& texts) {
     render->add_flag("--quiet", texts.quiet, "No progress and no report; problems are still told");
 }
 
-std::optional<std::filesystem::path> optionalPath(const std::string& text) {
-    if (text.empty())
-        return std::nullopt;
-    return pathFromUtf8(text);
-}
-
 std::int32_t parseBlockSize(const std::string& text) {
     const std::optional<double> number = parseNumber(text);
     if (!number || *number < 1.0 || *number > largestBlock || *number != std::floor(*number)) {

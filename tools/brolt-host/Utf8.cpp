@@ -24,11 +24,8 @@ std::vector<std::string> utf8Arguments(int argc, const char* const* argv) {
     return arguments;
 }
 
-std::filesystem::path pathFromUtf8(const std::string& text) {
-    return {std::u8string(text.begin(), text.end())};
-}
-
-std::string utf8FromPath(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
+std::optional<std::filesystem::path> optionalPath(const std::string& text) {
+    if (text.empty())
+        return std::nullopt;
+    return pathFromUtf8(text);
 }

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Texts are UTF-8 throughout the tool. Windows hands over arguments and takes paths in wide
-// characters: these are the only places where the one becomes the other.
+// Texts are UTF-8 throughout the tool. Windows hands over arguments in wide characters, which
+// become UTF-8 here; paths do so in Utf8Path.h.
 
 #pragma once
 
+#include "presets/record/Utf8Path.h"
+
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,8 +16,5 @@
 /// from `argv`, whose characters are those of the system's code page. [any thread]
 std::vector<std::string> utf8Arguments(int argc, const char* const* argv);
 
-/// [any thread]
-std::filesystem::path pathFromUtf8(const std::string& text);
-
-/// As it was typed: separators are left alone. [any thread]
-std::string utf8FromPath(const std::filesystem::path& path);
+/// A path that an option gives; nothing for an option that was not given. [any thread]
+std::optional<std::filesystem::path> optionalPath(const std::string& text);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "presets/manager/IPresetDesktop.h"
-#include "presets/manager/Utf8Path.h"
+#include "presets/record/Utf8Path.h"
 
 #include <filesystem>
 #include <string>

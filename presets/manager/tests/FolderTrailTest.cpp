@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presets/manager/FolderTrail.h"
 
-#include "presets/manager/Utf8Path.h"
+#include "presets/record/Utf8Path.h"
 #include "services/tests/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presets/manager/PortableDirectoryIterator.h"
 
-#include "presets/manager/Utf8Path.h"
 #include "presets/manager/tests/PresetBytes.h"
+#include "presets/record/Utf8Path.h"
 #include "services/tests/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>

@@ -3,8 +3,8 @@
 #include "presets/manager/QMPresetItem.h"
 
 #include "presets/manager/QMPresetFolder.h"
-#include "presets/manager/Utf8Path.h"
 #include "presets/manager/tests/PresetBytes.h"
+#include "presets/record/Utf8Path.h"
 #include "services/tests/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>

@@ -8,12 +8,6 @@
 
 namespace {
 
-std::optional<std::filesystem::path> optionalPath(const std::string& text) {
-    if (text.empty())
-        return std::nullopt;
-    return pathFromUtf8(text);
-}
-
 StateForm convertedForm(const std::string& form, const std::filesystem::path& output) {
     if (!form.empty())
         return parseStateForm(form);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "presets/manager/Utf8Path.h"
+#include "presets/record/Utf8Path.h"
 
 std::filesystem::path pathFromUtf8(const std::string& text) {
 #ifdef _WIN32
