@@ -265,9 +265,9 @@ private:
     /// Makes the change and tells the environment when the value is another one afterwards.
     template <typename Change>
     void changeParameter(std::int32_t index, Change change);
-    /// Makes a change of many parameters and tells the environment which.
+    /// Makes a change of snapshots and finishes it like any application of state.
     template <typename Change>
-    void changeParameters(Change change);
+    void changeSnapshots(Change change);
     void tellChanges(const QM::QMParameterChanges& changes);
     void finishApplication(const QM::QMParameterChanges& changes);
 

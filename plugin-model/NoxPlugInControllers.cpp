@@ -3,14 +3,11 @@
 #include "plugin-model/INoxPlugInEnvironment.h"
 #include "plugin-model/NoxPlugIn.h"
 #include "plugin-model/QMParameterValues.h"
-
-#include <nlohmann/json.hpp>
+#include "plugin-model/records/ExtensionMembers.h"
 
 namespace {
 
 using nlohmann::json;
-
-constexpr const char* controllerMapKey = "parameterMap";
 
 /// The identifier in the first four characters of a key; 0, which no parameter has, for a shorter
 /// one.
@@ -32,7 +29,7 @@ void requireDocument(const json& mapping) {
 }
 
 json controllerMapOf(const json& document) {
-    const auto map = document.find(controllerMapKey);
+    const auto map = document.find(QM::controllerMapKey);
     return map != document.end() && map->is_structured() ? *map : json();
 }
 

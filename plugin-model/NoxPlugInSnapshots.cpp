@@ -21,42 +21,38 @@ std::string NoxPlugIn::snapshotName(std::int32_t snapshot) const {
 }
 
 template <typename Change>
-void NoxPlugIn::changeParameters(Change change) {
+void NoxPlugIn::changeSnapshots(Change change) {
     if (values_ == nullptr)
         return;
     QM::QMParameterChanges changes;
     change(*values_, &changes);
-    tellChanges(changes);
+    finishApplication(changes);
 }
 
 void NoxPlugIn::selectSnapshot(std::int32_t snapshot, QM::SnapshotMode mode) {
-    changeParameters([&](QM::QMParameterValues& values, QM::QMParameterChanges* changes) {
+    changeSnapshots([&](QM::QMParameterValues& values, QM::QMParameterChanges* changes) {
         values.selectSnapshot(snapshot, mode, changes);
-        postApplicationHook();
-        updateParameterControllerMapFromProperty();
     });
 }
 
 void NoxPlugIn::loadSnapshotFromPreset(std::int32_t snapshot, const QMGenericPreset& record) {
-    changeParameters([&](QM::QMParameterValues& values, QM::QMParameterChanges* changes) {
+    changeSnapshots([&](QM::QMParameterValues& values, QM::QMParameterChanges* changes) {
         values.loadSnapshotFromPreset(snapshot, record, changes);
-        postApplicationHook();
-        updateParameterControllerMapFromProperty();
     });
 }
 
 void NoxPlugIn::copySnapshot(std::int32_t from, std::int32_t to) {
-    changeParameters([&](QM::QMParameterValues& values, QM::QMParameterChanges* changes) {
+    changeSnapshots([&](QM::QMParameterValues& values, QM::QMParameterChanges* changes) {
         values.copySnapshot(from, to, changes);
-        postApplicationHook();
-        updateParameterControllerMapFromProperty();
     });
 }
 
 void NoxPlugIn::setBlend(float x, float y) {
-    changeParameters([&](QM::QMParameterValues& values, QM::QMParameterChanges* changes) {
-        values.setBlend(x, y, changes);
-    });
+    if (values_ == nullptr)
+        return;
+    QM::QMParameterChanges changes;
+    values_->setBlend(x, y, &changes);
+    tellChanges(changes);
 }
 
 float NoxPlugIn::blendValue(std::int32_t axis) const {

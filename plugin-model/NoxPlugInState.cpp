@@ -6,6 +6,7 @@
 #include "plugin-model/NoxPlugIn.h"
 #include "plugin-model/NoxPlugInSnapshot.h"
 #include "plugin-model/QMParameterValues.h"
+#include "plugin-model/records/ExtensionMembers.h"
 #include "plugin-model/records/ParameterStateRecord.h"
 #include "presets/record/PresetIdentity.h"
 #include "presets/record/QMGenericPreset.h"
@@ -17,9 +18,7 @@ namespace {
 /// Values and nothing else: a preset of this kind goes into the active snapshot and leaves the
 /// other state of the instance alone.
 bool isBare(const QMGenericPreset& record) {
-    const nlohmann::json& extension = record.extension;
-    return !record.values.empty() &&
-           (extension.is_null() || (extension.is_structured() && extension.empty()));
+    return !record.values.empty() && QM::holdsNothing(record.extension);
 }
 
 SettingLocator locatorOfPreset(std::uint64_t id) {

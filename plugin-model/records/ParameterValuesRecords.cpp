@@ -2,6 +2,7 @@
 // A values object's settings records: made and applied.
 #include "plugin-model/AccumulateBracket.h"
 #include "plugin-model/QMParameterValues.h"
+#include "plugin-model/records/ExtensionMembers.h"
 #include "plugin-model/records/ParameterStateRecord.h"
 #include "plugin-model/snapshots/SnapshotDocument.h"
 #include "presets/record/PresetComparison.h"
@@ -12,14 +13,6 @@ namespace QM {
 namespace {
 
 using nlohmann::json;
-
-/// Mappings of controllers: a document without them leaves those in force alone, and then they
-/// have to stay in the document that is saved next.
-constexpr const char* controllerMapKey = "parameterMap";
-
-bool holdsNothing(const json& document) {
-    return document.is_null() || (document.is_structured() && document.empty());
-}
 
 } // namespace
 
@@ -85,6 +78,8 @@ void QMParameterValues::applyValues(std::span<const std::int32_t> indices,
 }
 
 void QMParameterValues::takeDocumentOver(const json& newDocument) {
+    // A document without mappings of controllers leaves those in force alone, and then they have to
+    // stay in the document that is saved next.
     json taken = newDocument;
     SnapshotMembers::removeFrom(taken);
     const auto present = document->find(controllerMapKey);
