@@ -63,6 +63,10 @@ public:
     virtual void setSampleRate(const double* rate) = 0;
     [[nodiscard]] virtual double sampleRate() const = 0;
     virtual void setBlockSize(std::int32_t frames) = 0;
+    /// Samples by which the output comes later than the input.
+    [[nodiscard]] virtual std::int32_t latency() const = 0;
+    /// Whole seconds for which sound goes on after the input has ended; negative for ever.
+    [[nodiscard]] virtual std::int32_t tailSeconds() const = 0;
 
     /// unsupportedIOConfiguration when the type does not know the pair.
     virtual NoxResult setIOConfiguration(std::int32_t inputs, std::int32_t outputs) = 0;
@@ -156,6 +160,8 @@ public:
     [[nodiscard]] virtual bool isTouched(std::int32_t index) const = 0;
     [[nodiscard]] virtual bool testChangedFlag(std::int32_t index) const = 0;
     virtual void clearChangedFlag(std::int32_t index) = 0;
+    /// Told by an adapter once its host can see the instance's parameters.
+    virtual void parametersPublished() = 0;
     /// With a non-null argument: flushes one complete coefficient packet again.
     virtual void refresh(const void* argument) = 0;
 

@@ -92,6 +92,8 @@ public:
 
     [[nodiscard]] virtual std::int32_t inputCount() const = 0;
     [[nodiscard]] virtual std::int32_t outputCount() const = 0;
+    /// Whether a further input channel may steer the processing.
+    [[nodiscard]] virtual bool hasSidechain() const = 0;
     [[nodiscard]] virtual bool supportsIOConfiguration(std::int32_t inputs,
                                                        std::int32_t outputs) const = 0;
     /// 0 out of range.

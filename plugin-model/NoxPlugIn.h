@@ -74,6 +74,10 @@ public:
 
     void setBlockSize(std::int32_t) override {}
 
+    [[nodiscard]] std::int32_t latency() const override { return 0; }
+
+    [[nodiscard]] std::int32_t tailSeconds() const override { return 0; }
+
     NoxResult setIOConfiguration(std::int32_t inputCountWanted,
                                  std::int32_t outputCountWanted) override;
     [[nodiscard]] std::int32_t inputCount() const override;
@@ -135,6 +139,9 @@ public:
     [[nodiscard]] bool isTouched(std::int32_t index) const override;
     [[nodiscard]] bool testChangedFlag(std::int32_t index) const override;
     void clearChangedFlag(std::int32_t index) override;
+
+    void parametersPublished() override {}
+
     void refresh(const void* argument) override;
     NoxParameterController* controllerOfIndex(std::int32_t index) override;
     NoxParameterController* controllerOfID(FourCharCode id) override;

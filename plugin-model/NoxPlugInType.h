@@ -15,6 +15,7 @@ struct NoxPlugInTypeFields {
     FourCharCode typeCode = 0;
     std::vector<std::int32_t> inputConfigurationCodes; ///< one for each input channel
     std::vector<std::int32_t> outputConfigurationCodes;
+    bool hasSidechain = false;
     std::string name = "Undefined Plugin";
     std::string fullName = "Undefined Plugin";
     std::string shortName = "Undefined Plugin";
@@ -106,6 +107,9 @@ public:
     // Inputs and outputs.
     [[nodiscard]] std::int32_t inputCount() const override;
     [[nodiscard]] std::int32_t outputCount() const override;
+
+    [[nodiscard]] bool hasSidechain() const override { return fields.hasSidechain; }
+
     [[nodiscard]] bool supportsIOConfiguration(std::int32_t inputs,
                                                std::int32_t outputs) const override;
     [[nodiscard]] std::int32_t inputConfigurationCode(std::int32_t input) const override;
