@@ -8,3 +8,4 @@ void registerProcessorBenchmarks();
 void registerRotationBenchmark();
 void registerControlBenchmarks();
 void registerStateBenchmarks();
+void registerLibraryBenchmarks();

@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
     registerRotationBenchmark();
     registerControlBenchmarks();
     registerStateBenchmarks();
+    registerLibraryBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

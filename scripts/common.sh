@@ -34,11 +34,12 @@ retry() {
     return 1
 }
 
-# build CONFIG [TARGET...]: configures and builds. CMake's report on the configuration is shown only
-# when it fails.
+# build CONFIG [TARGET...]: fetches the VST3 SDK, configures and builds. CMake's report on the
+# configuration is shown only when it fails.
 build() {
     local config=$1 log
     shift
+    "$root/scripts/fetch-vst3-sdk" || die "building '$config' needs the VST3 SDK"
     log=$root/build/$config-configure.log
     mkdir -p "$root/build"
     (cd "$root" && cmake --preset "$config") >"$log" 2>&1 || {

@@ -36,7 +36,7 @@ void HostedInstance::drop() {
     {
         const ProcessingPause pause(gate);
         std::swap(instance, last);
-        typeIndex = -1;
+        channelCount = 0;
         activity.noteReset();
     }
     if (last)
@@ -45,7 +45,7 @@ void HostedInstance::drop() {
 
 bool HostedInstance::matchChannels(std::int32_t channels) {
     INoxPlugInType* const type = group.typeOfIndex(channels - 1);
-    if (type == nullptr || (instance && channels - 1 == typeIndex))
+    if (type == nullptr || (instance && channels == channelCount))
         return false;
     std::unique_ptr<INoxPlugIn> next = type->createAndRecordInstance();
     next->createProcessingState();
@@ -55,7 +55,7 @@ bool HostedInstance::matchChannels(std::int32_t channels) {
     {
         const ProcessingPause pause(gate);
         std::swap(instance, next);
-        typeIndex = channels - 1;
+        channelCount = channels;
     }
     if (next)
         next->setProcessingHost(nullptr);
@@ -103,13 +103,13 @@ std::int32_t HostedInstance::process(const NoxProcessBlock& input,
                                      const NoxProcessBlock& output) noexcept {
     if (!gate.enter())
         return 0;
-    std::int32_t written = 0;
-    if (instance != nullptr && input.channelCount >= instance->inputCount() &&
-        output.channelCount >= instance->outputCount()) {
+    const bool canRun = instance != nullptr && input.channelCount >= channelCount &&
+                        output.channelCount >= channelCount;
+    if (canRun) {
         activity.noteBlock(ProcessingActivity::Clock::now());
         instance->process(input, output);
-        written = instance->outputCount();
     }
+    const std::int32_t written = canRun ? channelCount : 0;
     gate.leave();
     return written;
 }

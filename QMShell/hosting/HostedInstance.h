@@ -62,7 +62,7 @@ private:
     INoxPlugInProcessingHost& host;
     INoxPlugInTypeGroup& group;
     std::unique_ptr<INoxPlugIn> instance;
-    std::int32_t typeIndex = -1;
+    std::int32_t channelCount = 0; ///< in and out, of the type that the instance is of
     ProcessingGate gate;
     ProcessingActivity activity;
 };

@@ -37,6 +37,12 @@ bool namesJuce(std::string header) {
     return header.find("juce") != std::string::npos;
 }
 
+// Of the plug-in interfaces the layer is made for.
+bool isInterfaceHeader(const Layer& layer, const std::string& header) {
+    return std::any_of(layer.interfaces.begin(), layer.interfaces.end(),
+                       [&](const std::string& beginning) { return header.starts_with(beginning); });
+}
+
 // Why the file of this layer may not have this include line; nothing where it may.
 std::optional<std::string> faultOf(const std::filesystem::path& root, const std::string& file,
                                    const Layer& layer, const IncludeLine& include) {
@@ -47,7 +53,7 @@ std::optional<std::string> faultOf(const std::filesystem::path& root, const std:
     }
     if (!include.quoted) {
         if (toolkit || layer.thirdParty || isTestFile(file) || isStandardHeader(header) ||
-            contains(layer.platformHeaders, header)) {
+            contains(layer.platformHeaders, header) || isInterfaceHeader(layer, header)) {
             return std::nullopt;
         }
         return "<" + header + "> is not allowed to the " + layer.name + " layer";

@@ -24,6 +24,10 @@ struct Layer {
     // Set where the JUCE toolkit's headers may be included.
     bool toolkit = false;
 
+    // Beginnings of the headers, in angle brackets, of a plug-in interface that the layer is made
+    // for.
+    std::vector<std::string> interfaces = {};
+
     // Set where third-party libraries belong: any header in angle brackets will do.
     bool thirdParty = false;
 };

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Where the toolkit's messages, and with them its timers, are delivered: what the toolkit calls the
+// message thread. Its life is the life of the toolkit in this process.
+//
+//   Windows                   the thread that made the loop; the host's message pump reaches the
+//                             toolkit's hidden window
+//   Linux, host's run loop    the host's own window thread (see HostDrivenMessages)
+//   Linux, otherwise          a thread of ours (see OwnMessageThread)
+#pragma once
+
+#include "QMShell/toolkit/IHostRunLoop.h"
+
+#include <functional>
+#include <memory>
+
+class MessageLoop {
+public:
+    virtual ~MessageLoop() = default;
+
+    /// Runs a task as part of the message thread's work and waits for it. Nothing that the message
+    /// thread may wait for must be held. [any thread but audio]
+    virtual void run(const std::function<void()>& task) = 0;
+};
+
+/// The loop this platform wants; the run loop may be null. [message thread]
+std::unique_ptr<MessageLoop> makeMessageLoop(std::unique_ptr<IHostRunLoop> hostRunLoop);

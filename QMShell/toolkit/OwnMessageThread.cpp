@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "QMShell/toolkit/OwnMessageThread.h"
+
+#ifndef _WIN32
+
+#    include "QMShell/toolkit/ToolkitTask.h"
+
+#    include <juce_events/juce_events.h>
+
+#    include <pthread.h>
+
+namespace juce {
+// The toolkit's plug-in wrappers declare it themselves, too: no header of the toolkit does.
+bool dispatchNextMessageOnSystemQueue(bool returnIfNoPendingMessages);
+} // namespace juce
+
+OwnMessageThread::OwnMessageThread()
+    : thread([this] { deliver(); }) {
+    isDelivering.wait(false);
+}
+
+OwnMessageThread::~OwnMessageThread() {
+    run([this] { shallEnd = true; });
+    thread.join();
+}
+
+void OwnMessageThread::run(const std::function<void()>& task) {
+    runOnToolkitThread(task);
+}
+
+void OwnMessageThread::deliver() {
+    // As debuggers and system monitors show it; at most fifteen characters.
+    pthread_setname_np(pthread_self(), "plug-in events");
+    const juce::ScopedJuceInitialiser_GUI toolkit;
+    isDelivering = true;
+    isDelivering.notify_one();
+    while (!shallEnd)
+        juce::dispatchNextMessageOnSystemQueue(false);
+}
+
+#endif

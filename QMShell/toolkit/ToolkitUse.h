@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Who keeps the toolkit alive. The plug-ins of a process share one message loop and one window for
+// tooltips: the first user starts them, the last one ends them, so that a host that has let go of
+// every instance can unload the library with no thread, window or timer left behind.
+#pragma once
+
+#include "QMShell/toolkit/IHostRunLoop.h"
+
+#include <functional>
+#include <memory>
+
+class ToolkitUse {
+public:
+    /// The run loop, null where the host offers none, serves when this is the first user.
+    /// [message thread]
+    explicit ToolkitUse(std::unique_ptr<IHostRunLoop> hostRunLoop = nullptr);
+    /// [message thread]
+    ~ToolkitUse();
+    ToolkitUse(const ToolkitUse&) = delete;
+    ToolkitUse& operator=(const ToolkitUse&) = delete;
+
+    /// Runs a task as part of the message thread's work and waits for it. Nothing that the message
+    /// thread may wait for must be held. [any thread but audio]
+    static void run(const std::function<void()>& task);
+
+    /// Users at this moment. [message thread]
+    [[nodiscard]] static int count();
+};

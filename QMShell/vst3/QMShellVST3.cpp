@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "QMShell/vst3/QMShellVST3.h"
+
+#include "QMShell/toolkit/RepeatingCheck.h"
+#include "QMShell/toolkit/ToolkitUse.h"
+#include "QMShell/vst3/QMShellVST3Guard.h"
+#include "QMShell/vst3/QMVstParameter.h"
+#include "QMShell/vst3/Vst3RunLoop.h"
+#include "plugin-model/INoxPlugIn.h"
+#include "plugin-model/INoxPlugInType.h"
+#include "plugin-model/INoxPlugInTypeGroup.h"
+
+using namespace Steinberg;
+using namespace Steinberg::Vst;
+
+namespace {
+
+constexpr int checkPeriodMs = 100;
+
+} // namespace
+
+QMShellVST3::QMShellVST3(const Vst3Product& adaptedProduct)
+    : product(adaptedProduct)
+    , processingHost(nullptr)
+    , typeGroup(product.createTypeGroup(&environment))
+    , hosted(processingHost, *typeGroup) {
+    environment.registerTypeGroup(*typeGroup);
+    NoxHostDescription& description = environment.hostDescription();
+    description.enabled = true;
+    description.tempo = [this] { return tempo.load(std::memory_order_relaxed); };
+}
+
+QMShellVST3::~QMShellVST3() {
+    end();
+}
+
+tresult PLUGIN_API QMShellVST3::initialize(FUnknown* context) {
+    const tresult result = guarded("initialize", failed, [&] { return begin(context); });
+    if (result != kResultOk)
+        return result;
+    // Without the lock: the message thread is waited for, and the check wants the lock.
+    try {
+        toolkit = std::make_unique<ToolkitUse>(runLoopOfHost(context));
+        check = std::make_unique<RepeatingCheck>(checkPeriodMs,
+                                                 [this] { checkWhetherProcessingStopped(); });
+        return kResultOk;
+    } catch (const std::exception& error) {
+        QM::log(QM::LogLevel::error, "QMShellVST3::initialize: %s\n", error.what());
+        terminate();
+        return kResultFalse;
+    }
+}
+
+tresult QMShellVST3::begin(FUnknown* context) {
+    if (isInitialised)
+        return kResultFalse;
+    const tresult result = SingleComponentEffect::initialize(context);
+    if (result != kResultOk)
+        return result;
+    try {
+        addBuses();
+        isInitialised = true;
+    } catch (...) {
+        SingleComponentEffect::terminate();
+        throw;
+    }
+    return kResultOk;
+}
+
+void QMShellVST3::addBuses() {
+    addAudioInput(STR16("Stereo In"), SpeakerArr::kStereo);
+    addAudioOutput(STR16("Stereo Out"), SpeakerArr::kStereo);
+    matchInstanceToBuses();
+    hasSidechain = hosted.get()->type()->hasSidechain();
+    if (hasSidechain)
+        addAudioInput(STR16("Sidechain In"), SpeakerArr::kMono, kAux, 0);
+}
+
+tresult PLUGIN_API QMShellVST3::terminate() {
+    end();
+    return guarded("terminate", failed, [&] {
+        isInitialised = false;
+        hosted.drop();
+        return SingleComponentEffect::terminate();
+    });
+}
+
+void QMShellVST3::end() noexcept {
+    // The check first; it runs on the message thread and knows this object.
+    check.reset();
+    toolkit.reset();
+}
+
+void QMShellVST3::checkWhetherProcessingStopped() noexcept {
+    guarded("check", false, [&] {
+        return hosted.resetIfStopped(processSetup.sampleRate, processSetup.maxSamplesPerBlock);
+    });
+}
+
+IPlugView* PLUGIN_API QMShellVST3::createView(FIDString name) {
+    if (name == nullptr || !FIDStringsEqual(name, ViewType::kEditor) || !product.createEditorView)
+        return nullptr;
+    try {
+        return product.createEditorView(*this);
+    } catch (const std::exception& error) {
+        QM::log(QM::LogLevel::error, "QMShellVST3::createView: %s\n", error.what());
+        return nullptr;
+    }
+}

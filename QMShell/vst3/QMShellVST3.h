@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The plug-in as a VST3 host sees it: component, processor and controller in one object. It knows
+// the product through the plug-in model alone. Its parts are in files of their own:
+//   QMShellVST3.cpp             its life
+//   QMShellVST3Buses.cpp        buses, arrangements, setting up
+//   QMShellVST3Parameters.cpp   parameters
+//   QMShellVST3Process.cpp      processing
+//   QMShellVST3State.cpp        state
+//
+// Threads. process runs on the audio thread and takes no lock, except in offline mode, where it
+// sets parameters. Everything else that touches the instance holds the control lock, since hosts'
+// control threads, the message thread's check and offline processing come at the same time. The
+// host is never called with the lock held, nor is the message thread waited for: both may want it.
+// What may not run beside a block is kept apart by HostedInstance.
+#pragma once
+
+#include <public.sdk/source/vst/vstsinglecomponenteffect.h>
+
+#include "QMShell/hosting/HostedInstance.h"
+#include "QMShell/hosting/NoxPlugInEnvironment.h"
+#include "QMShell/hosting/QMShellPlugInProcessingHost.h"
+#include "QMShell/vst3/Vst3Product.h"
+
+#include <atomic>
+#include <mutex>
+
+class QMVstParameter;
+class RepeatingCheck;
+class ToolkitUse;
+
+class QMShellVST3 final : public Steinberg::Vst::SingleComponentEffect {
+public:
+    using tresult = Steinberg::tresult;
+    using int32 = Steinberg::int32;
+    using ParamID = Steinberg::Vst::ParamID;
+    using ParamValue = Steinberg::Vst::ParamValue;
+
+    /// The product must outlive it. [message thread]
+    explicit QMShellVST3(const Vst3Product& adaptedProduct);
+    ~QMShellVST3() override;
+
+    // Its life. Everything in this class may be called before initialize and after terminate, and
+    // then answers failure, 0 or nothing.
+
+    tresult PLUGIN_API initialize(Steinberg::FUnknown* context) override;
+    tresult PLUGIN_API terminate() override;
+
+    // Buses and setting up: the host's control thread.
+
+    tresult PLUGIN_API getBusInfo(Steinberg::Vst::MediaType type,
+                                  Steinberg::Vst::BusDirection direction, int32 index,
+                                  Steinberg::Vst::BusInfo& info) override;
+    tresult PLUGIN_API activateBus(Steinberg::Vst::MediaType type,
+                                   Steinberg::Vst::BusDirection direction, int32 index,
+                                   Steinberg::TBool state) override;
+    tresult PLUGIN_API setBusArrangements(Steinberg::Vst::SpeakerArrangement* inputs, int32 numIns,
+                                          Steinberg::Vst::SpeakerArrangement* outputs,
+                                          int32 numOuts) override;
+    tresult PLUGIN_API getBusArrangement(Steinberg::Vst::BusDirection direction, int32 index,
+                                         Steinberg::Vst::SpeakerArrangement& arrangement) override;
+    tresult PLUGIN_API setupProcessing(Steinberg::Vst::ProcessSetup& setup) override;
+    /// Does the same for both states: the instance starts over.
+    tresult PLUGIN_API setActive(Steinberg::TBool state) override;
+    tresult PLUGIN_API setProcessing(Steinberg::TBool state) override;
+    Steinberg::uint32 PLUGIN_API getLatencySamples() override;
+    Steinberg::uint32 PLUGIN_API getTailSamples() override;
+
+    /// [audio thread]
+    tresult PLUGIN_API process(Steinberg::Vst::ProcessData& data) override;
+
+    // State: any thread of the host but the audio thread.
+
+    tresult PLUGIN_API setState(Steinberg::IBStream* stream) override;
+    tresult PLUGIN_API getState(Steinberg::IBStream* stream) override;
+    /// The same as setState: hosts hand the component's state to its controller, too.
+    tresult PLUGIN_API setComponentState(Steinberg::IBStream* stream) override;
+
+    /// There is no state that only the controller has.
+    tresult PLUGIN_API setEditorState(Steinberg::IBStream*) override {
+        return Steinberg::kResultFalse;
+    }
+
+    tresult PLUGIN_API getEditorState(Steinberg::IBStream*) override {
+        return Steinberg::kResultOk;
+    }
+
+    // Parameters: any thread of the host but the audio thread. A parameter is addressed by its
+    // four-character identifier or by its index.
+
+    int32 PLUGIN_API getParameterCount() override;
+    tresult PLUGIN_API getParameterInfo(int32 index, Steinberg::Vst::ParameterInfo& info) override;
+    tresult PLUGIN_API getParamStringByValue(ParamID id, ParamValue normalised,
+                                             Steinberg::Vst::String128 text) override;
+    tresult PLUGIN_API getParamValueByString(ParamID id, Steinberg::Vst::TChar* text,
+                                             ParamValue& normalised) override;
+    ParamValue PLUGIN_API normalizedParamToPlain(ParamID id, ParamValue normalised) override;
+    ParamValue PLUGIN_API plainParamToNormalized(ParamID id, ParamValue plain) override;
+    ParamValue PLUGIN_API getParamNormalized(ParamID id) override;
+    /// kResultFalse, and nothing changes, for an unknown parameter or a value that is no number.
+    tresult PLUGIN_API setParamNormalized(ParamID id, ParamValue normalised) override;
+
+    /// Null for any name but "editor", and while the product has no editor. [message thread]
+    Steinberg::IPlugView* PLUGIN_API createView(Steinberg::FIDString name) override;
+
+    Steinberg::Vst::Parameter* getParameterObject(ParamID id) override;
+
+    OBJ_METHODS(QMShellVST3, Steinberg::Vst::SingleComponentEffect)
+
+private:
+    class EntryRestorer;
+
+    /// The answer of an entry point that could not do its work.
+    static constexpr tresult failed = Steinberg::kResultFalse;
+
+    /// Does an entry point's work with the control lock held. What it throws ends here, with a line
+    /// in the log; the answer is then `failure`.
+    template <typename Answer, typename Work>
+    Answer guarded(const char* entry, Answer failure, Work work) noexcept;
+
+    tresult begin(Steinberg::FUnknown* context);
+    void end() noexcept;
+    void addBuses();
+    void checkWhetherProcessingStopped() noexcept;
+
+    [[nodiscard]] Steinberg::Vst::AudioBus* audioBus(Steinberg::Vst::BusDirection direction,
+                                                     int32 index);
+    bool applyMainArrangements(Steinberg::Vst::SpeakerArrangement input,
+                               Steinberg::Vst::SpeakerArrangement output);
+    bool applyArrangements(const Steinberg::Vst::SpeakerArrangement* inputs, int32 numIns,
+                           const Steinberg::Vst::SpeakerArrangement* outputs, int32 numOuts);
+    void matchInstanceToBuses();
+    void startOver();
+    void publishParameters();
+
+    [[nodiscard]] int32 indexOf(ParamID id) const;
+    [[nodiscard]] QMVstParameter* parameterAt(int32 index) const;
+    void setPlainValue(int32 index, double plain);
+    void refreshParameters();
+    void applyLastPoints(Steinberg::Vst::IParameterChanges& changes);
+    void applyOfflineChanges(Steinberg::Vst::IParameterChanges* changes) noexcept;
+
+    const Vst3Product& product;
+    NoxPlugInEnvironment environment;
+    QMShellPlugInProcessingHost processingHost;
+    std::unique_ptr<INoxPlugInTypeGroup> typeGroup;
+    HostedInstance hosted;
+    std::atomic<double> tempo{120.0}; ///< beats a minute; written by the audio thread
+    std::atomic<int32> processMode{Steinberg::Vst::kRealtime};
+    bool hasSidechain = false;
+    bool isInitialised = false;
+
+    /// Of everything about the instance but process; recursive because a host may come back from
+    /// the stream it is asked to read.
+    std::recursive_mutex control;
+
+    std::unique_ptr<ToolkitUse> toolkit;
+    std::unique_ptr<RepeatingCheck> check;
+};

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The way into every entry point of QMShellVST3 but process: the lock, and the end of exceptions.
+#pragma once
+
+#include "QMShell/vst3/QMShellVST3.h"
+#include "services/Log.h"
+
+#include <exception>
+
+template <typename Answer, typename Work>
+Answer QMShellVST3::guarded(const char* entry, Answer failure, Work work) noexcept {
+    try {
+        const std::scoped_lock lock(control);
+        return work();
+    } catch (const std::exception& error) {
+        QM::log(QM::LogLevel::error, "QMShellVST3::%s: %s\n", entry, error.what());
+    } catch (...) {
+        QM::log(QM::LogLevel::error, "QMShellVST3::%s: unknown exception\n", entry);
+    }
+    return failure;
+}
