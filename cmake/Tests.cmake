@@ -77,19 +77,21 @@ function(brolt_add_test_executable)
         COMMAND ${BROLT_LAUNCHER} "$<TARGET_FILE:${arg_NAME}>")
 endfunction()
 
-# brolt_add_tests(NAME <prefix> LINKS <target>... [DEFINITIONS <definition>...] [OPTIMISED])
+# brolt_add_tests(NAME <prefix> LINKS <target>... [DEFINITIONS <definition>...] [EXCLUDE <regex>...]
+#                 [OPTIMISED])
 #
 # The test executables of the current folder's tests/: <prefix>_tests, <prefix>_concurrency_tests
-# and <prefix>_audio_thread_tests, each as far as it has sources.
+# and <prefix>_audio_thread_tests, each as far as it has sources. EXCLUDE leaves files out of the
+# first (see brolt_collect_sources).
 function(brolt_add_tests)
-    cmake_parse_arguments(PARSE_ARGV 0 arg "OPTIMISED" "NAME" "LINKS;DEFINITIONS")
+    cmake_parse_arguments(PARSE_ARGV 0 arg "OPTIMISED" "NAME" "LINKS;DEFINITIONS;EXCLUDE")
     set(optimised "")
     if(arg_OPTIMISED)
         set(optimised OPTIMISED)
     endif()
 
     brolt_collect_sources(OUT unit PATTERNS "tests/*.h" "tests/*.cpp"
-        EXCLUDE "^tests/concurrency/" "^tests/audio_thread/")
+        EXCLUDE "^tests/concurrency/" "^tests/audio_thread/" ${arg_EXCLUDE})
     brolt_add_test_executable(NAME ${arg_NAME}_tests SOURCES ${unit}
         LINKS ${arg_LINKS} DEFINITIONS ${arg_DEFINITIONS} ${optimised})
 

@@ -37,6 +37,8 @@ float* channelOf(const AudioBusBuffers& bus, int32 channel) {
 }
 
 Block blockOf(const ProcessData& data) {
+    if (data.inputs == nullptr)
+        return {};
     const AudioBusBuffers& input = data.inputs[0];
     const AudioBusBuffers& output = data.outputs[0];
     const int32 channels = input.numChannels == stereo ? stereo : 1;
@@ -70,7 +72,7 @@ void clearSilenceFlags(const ProcessData& data) {
 
 bool hasAudio(const ProcessData& data) {
     return data.numInputs > 0 && data.numOutputs > 0 && data.numSamples > 0 &&
-           data.inputs != nullptr && data.outputs != nullptr;
+           data.outputs != nullptr;
 }
 
 } // namespace

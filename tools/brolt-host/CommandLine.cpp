@@ -4,6 +4,7 @@
 #include "brolt/model/QMBrolt_ProductCodes.h"
 #include "tools/brolt-host/HostError.h"
 #include "tools/brolt-host/ParameterValueText.h"
+#include "tools/brolt-host/PlugInCommandLine.h"
 #include "tools/brolt-host/Utf8.h"
 #include "tools/brolt-host/state/StateCommandLine.h"
 
@@ -21,13 +22,13 @@ struct RenderTexts {
     std::vector<std::string> settings;
     std::string outputFolder;
     RenderStateCommandLine state;
+    PlugInCommandLine plugIn;
     std::string automation;
     std::string block = "512";
     std::string channels;
     std::string bits = "float";
     std::string trace;
     std::string plot;
-    std::string format = "model";
     bool quiet = false;
 };
 
@@ -40,7 +41,10 @@ void addRender(CLI::App& app, RenderTexts& texts) {
         "the input's length and sample rate. Output files appear complete or not at all.\n\n"
         "FILE of --automate: lines 'seconds ID value'; # begins a comment. A change takes effect "
         "at\n"
-        "the start of the block that contains it.");
+        "the start of the block that contains it.\n\n"
+        "Both forms render the same bits. --trace-records and --plot look into the processor,\n"
+        "which no plug-in interface shows: they look at a model that runs beside the bundle, and\n"
+        "compare the two.");
     render->add_option("FILES", texts.files, "Input and output file; only inputs with --out-dir")
         ->required();
     render
@@ -72,9 +76,8 @@ void addRender(CLI::App& app, RenderTexts& texts) {
         ->type_name("FILE");
     render->add_option("--plot", texts.plot, "Draw pitch and levels over time")
         ->type_name("FILE.png");
-    render
-        ->add_option("--format", texts.format, "What to drive: model, the plug-in model (default)")
-        ->type_name("FORM");
+    texts.plugIn.addTo(*render);
+    texts.plugIn.addModeTo(*render);
     render->add_flag("--quiet", texts.quiet, "No progress and no report; problems are still told");
 }
 
@@ -105,16 +108,7 @@ SampleEncoding parseEncoding(const std::string& text) {
     throw HostError("--bits " + text + ": must be float, 24 or 16");
 }
 
-void checkFormat(const std::string& text) {
-    if (text == "model")
-        return;
-    if (text == "vst3" || text == "vst2")
-        throw HostError("--format " + text + ": is not available in this build");
-    throw HostError("--format " + text + ": must be model");
-}
-
 RenderOptions renderOptions(const RenderTexts& texts) {
-    checkFormat(texts.format);
     RenderOptions options;
     for (const std::string& file : texts.files)
         options.files.push_back(pathFromUtf8(file));
@@ -127,6 +121,7 @@ RenderOptions renderOptions(const RenderTexts& texts) {
     options.encoding = parseEncoding(texts.bits);
     options.trace = optionalPath(texts.trace);
     options.plot = optionalPath(texts.plot);
+    options.plugIn = texts.plugIn.options();
     options.quiet = texts.quiet;
 
     constexpr std::size_t inputAndOutput = 2;
@@ -161,7 +156,10 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
         app.add_subcommand("params", "List the parameters: identifiers, ranges, defaults, texts");
     paramsCommand->add_flag("--tsv", params.tabSeparated,
                             "For programs: tabulators between columns");
-    const CLI::App* const infoCommand = app.add_subcommand("info", "Tell what the plug-in is");
+    PlugInCommandLine infoPlugIn;
+    CLI::App* const infoCommand =
+        app.add_subcommand("info", "Tell what the plug-in is, and what its bundle says of itself");
+    infoPlugIn.addTo(*infoCommand);
     const PresetCommandLine preset(app);
 
     checkCommand(app, arguments);
@@ -178,7 +176,7 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
     if (paramsCommand->parsed())
         return params;
     if (infoCommand->parsed())
-        return InfoOptions{};
+        return InfoOptions{infoPlugIn.options()};
     if (auto presetOptions = preset.options()) {
         return std::visit([](auto& chosen) { return CommandLine(std::move(chosen)); },
                           *presetOptions);

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "tools/brolt-host/PlugInOptions.h"
 #include "tools/brolt-host/SampleEncoding.h"
 #include "tools/brolt-host/state/StateOptions.h"
 
@@ -19,6 +20,7 @@ struct RenderOptions {
     std::optional<std::filesystem::path> outputFolder;
     std::vector<std::string> settings; ///< "ID=VALUE" each
     RenderStateOptions state;
+    PlugInOptions plugIn;
     std::optional<std::filesystem::path> automation;
     std::int32_t blockSize = 512;
     std::optional<int> channels;
@@ -32,7 +34,9 @@ struct ParamsOptions {
     bool tabSeparated = false;
 };
 
-struct InfoOptions {};
+struct InfoOptions {
+    PlugInOptions plugIn;
+};
 
 /// A text the user asked for: help or version.
 struct TextRequest {

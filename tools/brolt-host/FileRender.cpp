@@ -6,19 +6,21 @@
 #include "tools/brolt-host/AutomationSchedule.h"
 #include "tools/brolt-host/ChannelLayout.h"
 #include "tools/brolt-host/Interruption.h"
-#include "tools/brolt-host/ModelRenderer.h"
 #include "tools/brolt-host/OscillatorGains.h"
 #include "tools/brolt-host/PeakMagnitude.h"
+#include "tools/brolt-host/ProcessorInsight.h"
 #include "tools/brolt-host/ProgressBar.h"
 #include "tools/brolt-host/RecordTrace.h"
 #include "tools/brolt-host/RenderHistory.h"
 #include "tools/brolt-host/RenderPlot.h"
+#include "tools/brolt-host/TwinRenderer.h"
 #include "tools/brolt-host/Utf8.h"
 
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -31,12 +33,14 @@ std::int64_t chunkLength(std::int32_t blockSize) {
 
 class FileRender {
 public:
-    FileRender(const RenderPlan& renderPlan, const RenderFiles& renderFiles)
+    FileRender(RendererFactory& factory, const RenderPlan& renderPlan,
+               const RenderFiles& renderFiles)
         : plan(renderPlan)
         , files(renderFiles)
         , reader(files.input)
         , channels(plan.channels.value_or(reader.channels()))
-        , renderer(std::make_unique<ModelRenderer>(channels, reader.sampleRate(), plan))
+        , renderer(makeRenderer(factory))
+        , insight(renderer->insight())
         , schedule(plan.automation.changes, reader.sampleRate())
         , writer(files.output, {channels, reader.sampleRate(), plan.encoding}, reader.frames())
         , chunk(chunkLength(plan.blockSize))
@@ -72,6 +76,15 @@ public:
     }
 
 private:
+    /// One with a view into the processor where that is wanted.
+    std::unique_ptr<Renderer> makeRenderer(RendererFactory& factory) const {
+        auto made = factory.makeRenderer(channels, reader.sampleRate(), plan);
+        const bool wantsInsight = files.trace || files.plot;
+        if (!wantsInsight || made->insight() != nullptr)
+            return made;
+        return std::make_unique<TwinRenderer>(std::move(made), channels, reader.sampleRate(), plan);
+    }
+
     bool renderChunk() {
         throwIfInterrupted();
         const std::int64_t frames = reader.read(interleaved.data(), chunk);
@@ -80,6 +93,7 @@ private:
         separateChannels(interleaved.data(), reader.channels(), frames, input);
         for (std::int64_t start = 0; start < frames; start += plan.blockSize)
             renderBlock(start, std::min<std::int64_t>(plan.blockSize, frames - start));
+        renderer->betweenBlocks();
         if (history)
             history->noteLevels(input, output, position, frames);
         interleaveChannels(output, frames, interleaved.data());
@@ -103,10 +117,10 @@ private:
         }
         renderer->process(inputs.data(), outputs.data(), static_cast<std::int32_t>(frames));
 
-        if (trace && renderer->recordInUse() != nullptr)
-            trace->note(frame, *renderer->recordInUse());
+        if (trace && insight->recordInUse() != nullptr)
+            trace->note(frame, *insight->recordInUse());
         if (history && history->wantsReading(frame + frames))
-            history->noteOscillators(frame + frames, renderer->readOscillators(),
+            history->noteOscillators(frame + frames, insight->readOscillators(),
                                      oscillatorGains(*renderer));
     }
 
@@ -133,6 +147,7 @@ private:
     AudioFileReader reader;
     int channels;
     std::unique_ptr<Renderer> renderer;
+    ProcessorInsight* insight; ///< of the renderer
     AutomationSchedule schedule;
     AudioFileWriter writer;
     std::optional<RecordTrace> trace;
@@ -148,6 +163,7 @@ private:
 
 } // namespace
 
-RenderSummary renderFile(const RenderPlan& plan, const RenderFiles& files) {
-    return FileRender(plan, files).run();
+RenderSummary renderFile(RendererFactory& factory, const RenderPlan& plan,
+                         const RenderFiles& files) {
+    return FileRender(factory, plan, files).run();
 }

@@ -17,6 +17,7 @@ ModelRenderer::ModelRenderer(int channels, double sampleRate, const RenderPlan& 
     brolt = dynamic_cast<const QMBrolt_PlugIn*>(instance.get());
     instance->createProcessingState();
     instance->setProcessingHost(&host);
+    instance->discardPendingCoefficients();
 }
 
 ModelRenderer::~ModelRenderer() {
@@ -25,7 +26,7 @@ ModelRenderer::~ModelRenderer() {
 }
 
 void ModelRenderer::setParameter(std::int32_t index, double value) {
-    instance->setParameterValue(index, value);
+    instance->setNormalisedValue(index, product.parameters().plainToNormalised(index, value));
 }
 
 double ModelRenderer::parameter(std::int32_t index) const {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "QMShell/hosting/QMShellPlugInProcessingHost.h"
+#include "tools/brolt-host/ProcessorInsight.h"
 #include "tools/brolt-host/ProductModel.h"
 #include "tools/brolt-host/RenderPlan.h"
 #include "tools/brolt-host/Renderer.h"
@@ -14,11 +15,13 @@
 
 class QMBrolt_PlugIn;
 
-class ModelRenderer : public Renderer {
+class ModelRenderer : public Renderer, public ProcessorInsight {
 public:
     /// An instance for 1 or 2 channels with the plan's records applied and settings made. That is
     /// done before the instance gets its host and so its way to the processor: it then begins with
-    /// one single coefficient record, and the first block already works with it.
+    /// one single coefficient record, and the first block already works with it. The record is in
+    /// force and not pending, as after the reset that plug-in interfaces make at activation, so
+    /// that changes for the first block do not queue up behind it.
     ModelRenderer(int channels, double sampleRate, const RenderPlan& plan);
 
     ~ModelRenderer() override;
@@ -26,6 +29,9 @@ public:
     void setParameter(std::int32_t index, double value) override;
     [[nodiscard]] double parameter(std::int32_t index) const override;
     void process(float** inputs, float** outputs, std::int32_t frames) override;
+
+    [[nodiscard]] ProcessorInsight* insight() override { return this; }
+
     [[nodiscard]] const Coefficients* recordInUse() const override;
     OscillatorReading readOscillators() override;
 

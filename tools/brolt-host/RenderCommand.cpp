@@ -14,6 +14,7 @@
 #include <array>
 #include <cstdio>
 #include <map>
+#include <memory>
 #include <system_error>
 
 namespace fs = std::filesystem;
@@ -121,11 +122,12 @@ std::vector<RenderFiles> renderFilesOf(const RenderOptions& options) {
 int runRenderCommand(const RenderOptions& options) {
     const std::vector<RenderFiles> all = renderFilesOf(options);
     const RenderPlan plan = planOf(options);
+    const std::unique_ptr<RendererFactory> factory = makeRendererFactory(options.plugIn);
     saveSettings(plan, options.state);
     std::size_t failures = 0;
     for (const RenderFiles& files : all) {
         try {
-            const RenderSummary summary = renderFile(plan, files);
+            const RenderSummary summary = renderFile(*factory, plan, files);
             printNotices(plan, files, summary);
             if (!options.quiet)
                 printSummary(files, summary);

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "tools/brolt-host/ChannelLayout.h"
-#include "tools/brolt-host/Renderer.h"
+#include "tools/brolt-host/ProcessorInsight.h"
 
 #include <array>
 #include <cstdint>

@@ -5,16 +5,9 @@
 
 #pragma once
 
-#include "brolt/signal/Coefficients.h"
-
-#include <array>
 #include <cstdint>
 
-/// What the oscillators do at the end of the last block.
-struct OscillatorReading {
-    std::array<double, 2> frequency; ///< Hz, as it sounds
-    std::array<double, 2> level;     ///< level detector, linear; 0 while the oscillator is off
-};
+class ProcessorInsight;
 
 /// One thread drives a renderer and plays the parts of control thread and audio thread in turn.
 class Renderer {
@@ -25,7 +18,8 @@ public:
     Renderer& operator=(const Renderer&) = delete;
 
     /// Changes one parameter (by index, display units), as one change of its own. The next block
-    /// works with it, or one of the blocks after it when there are many changes at once.
+    /// works with it, or one of the blocks after it when there are many changes at once. Whatever
+    /// the form, the value goes through the parameter's normalised range and is rounded there.
     virtual void setParameter(std::int32_t index, double value) = 0;
 
     /// Display units.
@@ -34,9 +28,10 @@ public:
     /// Runs one block of at most the announced block size. An output may be its own input.
     virtual void process(float** inputs, float** outputs, std::int32_t frames) = 0;
 
-    /// The record that the last block used, or null before the first block and where the product is
-    /// driven in a form that does not show it. It stays until the next block.
-    [[nodiscard]] virtual const Coefficients* recordInUse() const = 0;
+    /// Does what a host does for its plug-ins beside processing. To be called directly after a
+    /// block, now and then.
+    virtual void betweenBlocks() {}
 
-    virtual OscillatorReading readOscillators() = 0;
+    /// Null in a form that does not show it.
+    [[nodiscard]] virtual ProcessorInsight* insight() { return nullptr; }
 };

@@ -5,10 +5,11 @@
 #include "tools/brolt-host/CommandLine.h"
 #include "tools/brolt-host/ExitStatus.h"
 #include "tools/brolt-host/HostError.h"
+#include "tools/brolt-host/InfoCommand.h"
 #include "tools/brolt-host/Interruption.h"
 #include "tools/brolt-host/Messages.h"
 #include "tools/brolt-host/ParameterReport.h"
-#include "tools/brolt-host/ProductReport.h"
+#include "tools/brolt-host/ProductModel.h"
 #include "tools/brolt-host/RenderCommand.h"
 #include "tools/brolt-host/Utf8.h"
 #include "tools/brolt-host/state/PresetCommand.h"
@@ -36,11 +37,7 @@ struct CommandRunner {
         return ExitStatus::success;
     }
 
-    int operator()(const InfoOptions&) const {
-        ProductModel product;
-        print(productReport(product));
-        return ExitStatus::success;
-    }
+    int operator()(const InfoOptions& options) const { return runInfoCommand(options); }
 
     int operator()(const PresetShowOptions& options) const { return runPresetShow(options); }
 

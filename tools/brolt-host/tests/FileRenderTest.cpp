@@ -6,6 +6,7 @@
 
 #include "brolt/signal/Brolt.h"
 #include "brolt/signal/CoefficientComputation.h"
+#include "tools/brolt-host/ModelRendererFactory.h"
 #include "tools/brolt-host/ProductModel.h"
 #include "tools/brolt-host/RecordTrace.h"
 #include "tools/brolt-host/tests/HostTestKit.h"
@@ -102,10 +103,12 @@ protected:
     }
 
     RenderSummary render() {
-        return renderFile(plan, {folder / "in.wav", folder / "out.wav", folder / "trace.txt", {}});
+        return renderFile(factory, plan,
+                          {folder / "in.wav", folder / "out.wav", folder / "trace.txt", {}});
     }
 
     TemporaryFolder folder;
+    ModelRendererFactory factory;
     RenderPlan plan;
 };
 
@@ -188,7 +191,7 @@ TEST_F(FileRender, automationChangesTheRecordsAtTheBeginningsOfItsBlocks) {
 
 TEST_F(FileRender, anInputMayBeItsOwnOutput) {
     const std::vector<float> audio = writeInput(1);
-    renderFile(plan, {folder / "in.wav", folder / "in.wav", {}, {}});
+    renderFile(factory, plan, {folder / "in.wav", folder / "in.wav", {}, {}});
     EXPECT_THAT(folder.names(), ElementsAre("in.wav"));
     EXPECT_TRUE(readAudio(folder / "in.wav") ==
                 directRender<1>(audio, 512, {{0, recordOf(defaultParameters(), 2)}}));
@@ -208,7 +211,7 @@ TEST_F(FileRender, aPlotChangesNothingAndIsAPicture) {
     writeInput(2);
     render();
     const std::string before = bytesOf(folder / "out.wav");
-    renderFile(plan, {folder / "in.wav", folder / "out.wav", {}, folder / "p.png"});
+    renderFile(factory, plan, {folder / "in.wav", folder / "out.wav", {}, folder / "p.png"});
     EXPECT_EQ(bytesOf(folder / "out.wav"), before);
     const std::string picture = bytesOf(folder / "p.png");
     EXPECT_EQ(picture.substr(0, 8), "\x89PNG\r\n\x1a\n");
@@ -220,7 +223,7 @@ TEST_F(FileRender, whenOneOutputCannotBeMadeNoneIs) {
     writeInput(1);
     const RenderFiles files{folder / "in.wav", folder / "out.wav", folder / "trace.txt",
                             folder / "missing" / "p.png"};
-    EXPECT_THAT(errorOf([&] { renderFile(plan, files); }),
+    EXPECT_THAT(errorOf([&] { renderFile(factory, plan, files); }),
                 testing::EndsWith("p.png: its folder does not exist"));
     EXPECT_THAT(folder.names(), ElementsAre("in.wav"));
 }

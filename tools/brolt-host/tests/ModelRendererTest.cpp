@@ -81,6 +81,21 @@ TEST(ModelRenderer, aChangeWhileItRunsIsUsedByTheNextBlock) {
     EXPECT_EQ(renderer.recordInUse()->outputGain, 10.0F);
 }
 
+TEST(ModelRenderer, changesBeforeTheFirstBlockDoNotQueueUpBehindTheFirstRecord) {
+    ModelRenderer renderer(1, 44100.0, planOf(64));
+    renderer.setParameter(gainIndex, 20.0);
+    processSilence(renderer, 1, 64);
+    EXPECT_EQ(renderer.recordInUse()->meterVersion, 3);
+    EXPECT_EQ(renderer.recordInUse()->outputGain, 10.0F);
+}
+
+TEST(ModelRenderer, aChangeIsRoundedToTheParametersStepsAsInAWorkstation) {
+    ModelRenderer renderer(1, 44100.0, planOf(64, {{gainIndex, 0.123, {}}}));
+    EXPECT_EQ(renderer.parameter(gainIndex), 0.123); // a setting is not
+    renderer.setParameter(gainIndex, 0.123);
+    EXPECT_EQ(renderer.parameter(gainIndex), 0.12); // steps of 0.01 dB
+}
+
 TEST(ModelRenderer, oscillatorsAtRestReadTheirSustainFrequency) {
     ModelRenderer renderer(2, 44100.0, planOf(64));
     processSilence(renderer, 4, 64);

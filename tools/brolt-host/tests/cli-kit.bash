@@ -54,7 +54,8 @@ check() {
 }
 
 errorLines() { wc -l <"$errors" | tr -d ' '; }
-listing() { (LC_ALL=C; ls -A | tr '\n' ' '); }
+# The plug-in keeps a log in its host's current directory, whatever the host does.
+listing() { (LC_ALL=C; ls -A -I NoxConsole3d.log | tr '\n' ' '); }
 
 # refused PATTERN: status 2, nothing on standard output, one line on standard error that matches, and
 # the folder as it was.
@@ -83,10 +84,11 @@ le() { # le VALUE BYTES: little-endian
     done
 }
 
-# wav CHANNELS DATA-BYTES: header of a 16-bit file at 44100 Hz.
+# wav CHANNELS DATA-BYTES [RATE]: header of a 16-bit file, at 44100 Hz if nothing else is said.
 wav() {
+    local rate=${3:-44100}
     printf 'RIFF'; le $((36 + $2)) 4; printf 'WAVEfmt '; le 16 4; le 1 2; le "$1" 2
-    le 44100 4; le $((44100 * $1 * 2)) 4; le $(($1 * 2)) 2; le 16 2; printf 'data'; le "$2" 4
+    le "$rate" 4; le $((rate * $1 * 2)) 4; le $(($1 * 2)) 2; le 16 2; printf 'data'; le "$2" 4
 }
 
 # audio: strokes of something like noise with silence between them, the same on every machine:

@@ -52,7 +52,7 @@ refuses 'a block of 0' '--block 0: must be a whole number from 1' render mono.wa
 refuses 'a negative block' '--block -64: must be a whole number from 1' render mono.wav out.wav --block -64
 refuses 'a block that is no number' '--block much: must be' render mono.wav out.wav --block much
 refuses 'three channels asked for' '--channels 3: must be 1 or 2' render mono.wav out.wav --channels 3
-refuses 'a form that is not built' '--format vst3: is not available in this build' render mono.wav out.wav --format vst3
+refuses 'a form that is not built' '--format vst2: is not available in this build' render mono.wav out.wav --format vst2
 refuses 'automation that is missing' 'none\.txt: no such file' render mono.wav out.wav --automate none.txt
 refuses 'a mistake in automation' "bad\.txt:2: unknown parameter 'gian'" render mono.wav out.wav --automate bad.txt
 refuses 'automation before the beginning' 'early\.txt:1: the time -1 s' render mono.wav out.wav --automate early.txt
@@ -129,6 +129,8 @@ check 'it reports one line' test "$(wc -l <"$output" | tr -d ' ')" = 1
 check 'the output has the frames of the input' test "$(wc -c <out.wav | tr -d ' ')" -ge $((frames * 4 + 44))
 check 'the record of the default settings' test "$(cat trace.txt)" = '0 3f800000 3f800000 3f800000 3e809bcc 472c4400 00000002 3f7ffdfd 3f7fe931 3f7ffbfa 3a83126f 3cd318a1 39c37efd 3cd318a1 39c37efd 3f7de425 3f7ebc49 3f7bc6df 3f7d7809'
 check 'the bits of a mono render' test "$(digest out.wav $frames)" = 97207077a940ca6ddc3324fcf8261a25b2be66a6c9a9020569feeec10d29f0ef
+run render mono.wav bundle.wav --quiet
+check 'the bundle renders them too' cmp -s bundle.wav out.wav
 
 cp mono.wav same.wav
 run render same.wav same.wav --quiet
@@ -139,6 +141,9 @@ printf '# pitch and level on the move\n0.5 sfre 45\n0.5 afre 300\n0.5 gain -3\n0
 run render stereo.wav out.wav --block 64 --automate moves.txt --set mgan=3 --set osc2=enabled --trace-records trace.txt
 check 'changes behind the end are left out and said so' succeededSaying 'moves\.txt: 1 of its changes lie behind the end of stereo\.wav'
 check 'the bits of an automated stereo render' test "$(digest out.wav $frames)" = 95e97390891c254a1874a4fb0ab91421b426fcf27caeb045f614e75bd0b5c6dd
+run render stereo.wav bundle.wav --quiet --block 64 --automate moves.txt --set mgan=3 --set osc2=enabled
+check 'the bundle renders them too, automated' cmp -s bundle.wav out.wav
+rm bundle.wav
 # 22050 is in the block from 22016; a burst of four changes keeps the first two records and the last.
 check 'the frames of its records' test "$(cut -d' ' -f1 trace.txt | tr '\n' ' ')" = '0 22016 22080 22144 55104 57280 61696 88192 '
 check 'a trace line is a frame and eighteen words' test "$(grep -cvE '^[0-9]+( [0-9a-f]{8}){18}$' trace.txt)" = 0

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/brolt-host/vst3/HostMessages.h"
+
+#ifdef _WIN32
+
+#    include <windows.h>
+
+void HostMessages::deliverPending() {
+    constexpr int enough = 100; // a plug-in that answers a message with a message must not stop us
+    MSG message;
+    for (int i = 0; i < enough && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0; ++i) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+#else
+
+void HostMessages::deliverPending() {
+    loop.deliverPending();
+}
+
+#endif
