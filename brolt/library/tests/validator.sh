@@ -18,7 +18,9 @@ secondsPerSuite=300
 
 # Tests that must fail, each as "suite / test=reason": where the format's rules for this product are
 # others than the validator's. A test that is listed here and passes is a mistake.
-requiredFailures=()
+requiredFailures=(
+    "Single Precision (32 bit) Tests / Parameter Bypass persistence=settings records skip the master bypass: whether a track is bypassed belongs to the session and does not come back with a state"
+)
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT

@@ -4,6 +4,8 @@
 // inside a namespace and expects that namespace to have a type boolean. Where Windows' headers have
 // declared one already, libjpeg's takes theirs, which is the same byte, and declares none.
 
+#pragma once
+
 #ifdef __RPCNDR_H__
 using ::boolean;
 #endif
