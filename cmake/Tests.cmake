@@ -18,6 +18,9 @@ set(BROLT_GOOGLETEST_SOURCE /usr/src/googletest CACHE PATH "GoogleTest's sources
 # The command that starts a program of this build; nothing for a native one.
 set(BROLT_LAUNCHER ${CMAKE_CROSSCOMPILING_EMULATOR})
 
+# The test executables and what they need. A thread sanitizer build is for these alone.
+add_custom_target(brolt_test_programs)
+
 define_property(GLOBAL PROPERTY BROLT_TEST_LIST BRIEF_DOCS "Lines of tests.txt")
 
 if(EXISTS "${BROLT_GOOGLETEST_SOURCE}/CMakeLists.txt")
@@ -68,6 +71,8 @@ function(brolt_add_test_executable)
     if(NOT arg_OPTIMISED)
         target_compile_options(${arg_NAME} PRIVATE -O0 -g1)
     endif()
+
+    add_dependencies(brolt_test_programs ${arg_NAME})
 
     set(labels unit)
     if(arg_CONCURRENCY)

@@ -20,6 +20,11 @@ public:
     /// Runs a task as part of the message thread's work and waits for it. Nothing that the message
     /// thread may wait for must be held. [any thread but audio]
     virtual void run(const std::function<void()>& task) = 0;
+
+    /// The process ends while somebody still uses the toolkit. Stops what would run on among
+    /// objects that are gone and leaves the toolkit as it is. Nothing of the host's is called.
+    /// [any thread but audio]
+    virtual void abandon() {}
 };
 
 /// The loop this platform wants; the run loop may be null. [message thread]

@@ -20,6 +20,17 @@ OwnMessageThread::OwnMessageThread()
 }
 
 OwnMessageThread::~OwnMessageThread() {
+    endThread();
+}
+
+void OwnMessageThread::abandon() {
+    isAbandoned = true;
+    endThread();
+}
+
+void OwnMessageThread::endThread() {
+    if (!thread.joinable())
+        return;
     run([this] { shallEnd = true; });
     thread.join();
 }
@@ -31,11 +42,13 @@ void OwnMessageThread::run(const std::function<void()>& task) {
 void OwnMessageThread::deliver() {
     // As debuggers and system monitors show it; at most fifteen characters.
     pthread_setname_np(pthread_self(), "plug-in events");
-    const juce::ScopedJuceInitialiser_GUI toolkit;
+    auto toolkit = std::make_unique<juce::ScopedJuceInitialiser_GUI>();
     isDelivering = true;
     isDelivering.notify_one();
     while (!shallEnd)
         juce::dispatchNextMessageOnSystemQueue(false);
+    if (isAbandoned)
+        static_cast<void>(toolkit.release());
 }
 
 #endif

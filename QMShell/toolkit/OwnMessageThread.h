@@ -22,11 +22,15 @@ public:
 
     void run(const std::function<void()>& task) override;
 
+    void abandon() override;
+
 private:
     void deliver();
+    void endThread();
 
     std::atomic<bool> isDelivering{false};
     std::atomic<bool> shallEnd{false};
+    bool isAbandoned = false; ///< set before shallEnd
     std::thread thread;
 };
 

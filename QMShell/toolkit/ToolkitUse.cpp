@@ -30,11 +30,12 @@ struct Shared {
         loop.reset();
     }
 
-    /// For a host that unloads the library, or exits, with instances still there: a thread of ours
-    /// must not run on in code that is gone.
-    ~Shared() {
+    /// What is still there when the process ends stays as it is, and stands still.
+    void abandon() {
         if (loop)
-            end();
+            loop->abandon();
+        static_cast<void>(tooltips.release());
+        static_cast<void>(loop.release());
     }
 };
 
@@ -43,12 +44,24 @@ Shared& shared() {
     return one;
 }
 
+/// For hosts that exit with instances still there. Made after the toolkit has begun, it goes before
+/// the toolkit's statics do.
+struct LastResort {
+    LastResort() = default;
+
+    ~LastResort() { shared().abandon(); }
+
+    LastResort(const LastResort&) = delete;
+    LastResort& operator=(const LastResort&) = delete;
+};
+
 } // namespace
 
 ToolkitUse::ToolkitUse(std::unique_ptr<IHostRunLoop> hostRunLoop) {
     const std::scoped_lock lock(shared().lock);
     if (shared().users == 0)
         shared().begin(std::move(hostRunLoop));
+    static const LastResort lastResort;
     ++shared().users;
 }
 

@@ -58,7 +58,7 @@ TEST_F(PlugInCompatibility, namesTheClassThatTheFactoryHas) {
               LoadedLibrary::shared().classOf("Audio Module Class").ID().toString());
 }
 
-// They take a list without old classes, or without quotation marks in place, for an error.
+// They take a list without old classes for an error.
 TEST_F(PlugInCompatibility, isUnderstoodByHosts) {
     HostStream stream;
     ASSERT_EQ(write(stream), kResultOk);
