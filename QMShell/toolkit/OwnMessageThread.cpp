@@ -32,6 +32,10 @@ void OwnMessageThread::endThread() {
     if (!thread.joinable())
         return;
     run([this] { shallEnd = true; });
+    // Whoever hands a task over is still busy with the toolkit's queue for a moment when the task
+    // has run.
+    isLeftAlone = true;
+    isLeftAlone.notify_one();
     thread.join();
 }
 
@@ -47,6 +51,7 @@ void OwnMessageThread::deliver() {
     isDelivering.notify_one();
     while (!shallEnd)
         juce::dispatchNextMessageOnSystemQueue(false);
+    isLeftAlone.wait(false);
     if (isAbandoned)
         static_cast<void>(toolkit.release());
 }

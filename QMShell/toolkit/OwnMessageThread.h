@@ -30,6 +30,7 @@ private:
 
     std::atomic<bool> isDelivering{false};
     std::atomic<bool> shallEnd{false};
+    std::atomic<bool> isLeftAlone{false};
     bool isAbandoned = false; ///< set before shallEnd
     std::thread thread;
 };

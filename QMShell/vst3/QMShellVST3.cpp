@@ -19,8 +19,9 @@ constexpr int checkPeriodMs = 100;
 
 } // namespace
 
-QMShellVST3::QMShellVST3(const Vst3Product& adaptedProduct)
+QMShellVST3::QMShellVST3(const Vst3Product& adaptedProduct, FUnknown* hostOfLibrary)
     : product(adaptedProduct)
+    , libraryContext(hostOfLibrary)
     , processingHost(nullptr)
     , typeGroup(product.createTypeGroup(&environment))
     , hosted(processingHost, *typeGroup) {
@@ -39,16 +40,21 @@ tresult PLUGIN_API QMShellVST3::initialize(FUnknown* context) {
     if (result != kResultOk)
         return result;
     // Without the lock: the message thread is waited for, and the check wants the lock.
-    try {
-        toolkit = std::make_unique<ToolkitUse>(runLoopOfHost(context));
+    const tresult watched = contained("initialize", failed, [&] {
+        toolkit = std::make_unique<ToolkitUse>(runLoopOf(context));
         check = std::make_unique<RepeatingCheck>(checkPeriodMs,
                                                  [this] { checkWhetherProcessingStopped(); });
         return kResultOk;
-    } catch (const std::exception& error) {
-        QM::log(QM::LogLevel::error, "QMShellVST3::initialize: %s\n", error.what());
+    });
+    if (watched != kResultOk)
         terminate();
-        return kResultFalse;
-    }
+    return watched;
+}
+
+/// The one of the context given here; else the one that the host gave the library as a whole.
+std::unique_ptr<IHostRunLoop> QMShellVST3::runLoopOf(FUnknown* context) const {
+    auto runLoop = runLoopOfHost(context);
+    return runLoop ? std::move(runLoop) : runLoopOfHost(libraryContext);
 }
 
 tresult QMShellVST3::begin(FUnknown* context) {
@@ -100,10 +106,6 @@ void QMShellVST3::checkWhetherProcessingStopped() noexcept {
 IPlugView* PLUGIN_API QMShellVST3::createView(FIDString name) {
     if (name == nullptr || !FIDStringsEqual(name, ViewType::kEditor) || !product.createEditorView)
         return nullptr;
-    try {
-        return product.createEditorView(*this);
-    } catch (const std::exception& error) {
-        QM::log(QM::LogLevel::error, "QMShellVST3::createView: %s\n", error.what());
-        return nullptr;
-    }
+    return contained("createView", static_cast<IPlugView*>(nullptr),
+                     [&] { return product.createEditorView(*this); });
 }

@@ -24,6 +24,9 @@
 #include <atomic>
 #include <mutex>
 
+class IHostRunLoop;
+class IStateByteStream;
+class IStateEntrySink;
 class QMVstParameter;
 class RepeatingCheck;
 class ToolkitUse;
@@ -35,8 +38,9 @@ public:
     using ParamID = Steinberg::Vst::ParamID;
     using ParamValue = Steinberg::Vst::ParamValue;
 
-    /// The product must outlive it. [message thread]
-    explicit QMShellVST3(const Vst3Product& adaptedProduct);
+    /// The product must outlive it. The host's context, as it gave it to the factory, may be null.
+    /// [message thread]
+    QMShellVST3(const Vst3Product& adaptedProduct, Steinberg::FUnknown* hostOfLibrary);
     ~QMShellVST3() override;
 
     // Its life. Everything in this class may be called before initialize and after terminate, and
@@ -116,7 +120,11 @@ private:
     /// in the log; the answer is then `failure`.
     template <typename Answer, typename Work>
     Answer guarded(const char* entry, Answer failure, Work work) noexcept;
+    /// The same without the lock.
+    template <typename Answer, typename Work>
+    Answer contained(const char* entry, Answer failure, Work work) noexcept;
 
+    [[nodiscard]] std::unique_ptr<IHostRunLoop> runLoopOf(Steinberg::FUnknown* context) const;
     tresult begin(Steinberg::FUnknown* context);
     void end() noexcept;
     void addBuses();
@@ -136,10 +144,12 @@ private:
     [[nodiscard]] QMVstParameter* parameterAt(int32 index) const;
     void setPlainValue(int32 index, double plain);
     void refreshParameters();
+    bool restore(IStateByteStream& stream, IStateEntrySink& sink);
     void applyLastPoints(Steinberg::Vst::IParameterChanges& changes);
     void applyOfflineChanges(Steinberg::Vst::IParameterChanges* changes) noexcept;
 
     const Vst3Product& product;
+    Steinberg::IPtr<Steinberg::FUnknown> libraryContext;
     NoxPlugInEnvironment environment;
     QMShellPlugInProcessingHost processingHost;
     std::unique_ptr<INoxPlugInTypeGroup> typeGroup;

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The way into every entry point of QMShellVST3 but process: the lock, and the end of exceptions.
+// The way into the entry points of QMShellVST3: the lock, and the end of exceptions.
 #pragma once
 
 #include "QMShell/vst3/QMShellVST3.h"
 #include "services/Log.h"
 
 #include <exception>
+#include <utility>
 
 template <typename Answer, typename Work>
-Answer QMShellVST3::guarded(const char* entry, Answer failure, Work work) noexcept {
+Answer QMShellVST3::contained(const char* entry, Answer failure, Work work) noexcept {
     try {
-        const std::scoped_lock lock(control);
         return work();
     } catch (const std::exception& error) {
         QM::log(QM::LogLevel::error, "QMShellVST3::%s: %s\n", entry, error.what());
@@ -18,4 +18,12 @@ Answer QMShellVST3::guarded(const char* entry, Answer failure, Work work) noexce
         QM::log(QM::LogLevel::error, "QMShellVST3::%s: unknown exception\n", entry);
     }
     return failure;
+}
+
+template <typename Answer, typename Work>
+Answer QMShellVST3::guarded(const char* entry, Answer failure, Work work) noexcept {
+    return contained(entry, std::move(failure), [&] {
+        const std::scoped_lock lock(control);
+        return work();
+    });
 }

@@ -2,6 +2,8 @@
 // State of the VST3 plug-in.
 
 #include "QMShell/state/IStateEntrySink.h"
+#include "QMShell/state/StateMemoryStream.h"
+#include "QMShell/state/StateStreamReading.h"
 #include "QMShell/state/Vst3Envelope.h"
 #include "QMShell/state/Vst3State.h"
 #include "QMShell/vst3/IBStreamBytes.h"
@@ -51,21 +53,54 @@ private:
     std::vector<std::pair<ParamID, ParamValue>> edits;
 };
 
+namespace {
+
+/// What the host's stream holds from its position on, read while nothing is locked. Afterwards the
+/// stream stands behind what of it was used, as if it had been read piece by piece.
+class StreamCopy {
+public:
+    explicit StreamCopy(IBStream& hostStream)
+        : stream(hostStream)
+        , begin(stream.tell())
+        , copy(readRemaining(stream)) {}
+
+    IStateByteStream& bytes() { return copy; }
+
+    void finish() {
+        if (begin >= 0)
+            stream.seek(begin + copy.tell());
+    }
+
+private:
+    IBStreamBytes stream;
+    std::int64_t begin;
+    StateMemoryStream copy;
+};
+
+} // namespace
+
 tresult PLUGIN_API QMShellVST3::setState(IBStream* stream) {
     if (stream == nullptr)
         return kInvalidArgument;
-    EntryRestorer restorer(*this);
-    const tresult result = guarded("setState", failed, [&] {
-        if (hosted.get() == nullptr)
-            return kResultFalse;
-        IBStreamBytes bytes(*stream);
-        const Vst3StateReading reading =
-            readVst3State(bytes, *hosted.get(), {restorer, product.vst2UniqueId});
-        refreshParameters();
-        return isAccepted(reading) ? kResultOk : kResultFalse;
+    return contained("setState", failed, [&] {
+        StreamCopy copy(*stream);
+        EntryRestorer restorer(*this);
+        const tresult result = guarded("setState", failed, [&] {
+            return restore(copy.bytes(), restorer) ? kResultOk : kResultFalse;
+        });
+        copy.finish();
+        restorer.tellHost();
+        return result;
     });
-    restorer.tellHost();
-    return result;
+}
+
+bool QMShellVST3::restore(IStateByteStream& stream, IStateEntrySink& sink) {
+    if (hosted.get() == nullptr)
+        return false;
+    const Vst3StateReading reading =
+        readVst3State(stream, *hosted.get(), {sink, product.vst2UniqueId});
+    refreshParameters();
+    return isAccepted(reading);
 }
 
 tresult PLUGIN_API QMShellVST3::setComponentState(IBStream* stream) {
@@ -75,17 +110,15 @@ tresult PLUGIN_API QMShellVST3::setComponentState(IBStream* stream) {
 tresult PLUGIN_API QMShellVST3::getState(IBStream* stream) {
     if (stream == nullptr)
         return kInvalidArgument;
-    std::optional<QMGenericPreset> record;
-    const tresult result = guarded("getState", failed, [&] {
-        if (hosted.get() == nullptr)
+    return contained("getState", failed, [&] {
+        const auto record = guarded("getState", std::optional<QMGenericPreset>(), [&] {
+            return hosted.get() == nullptr
+                       ? std::nullopt
+                       : std::optional(hosted.get()->getStateRecord(StateExtent::complete));
+        });
+        if (!record)
             return kResultFalse;
-        record = hosted.get()->getStateRecord(StateExtent::complete);
-        return kResultOk;
-    });
-    if (!record)
-        return result;
-    // Whatever the host's stream takes of it: the answer has always been success.
-    return guarded("getState", failed, [&] {
+        // Whatever the host's stream takes of it: the answer has always been success.
         IBStreamBytes bytes(*stream);
         static_cast<void>(writeVst3Envelope(bytes, *record));
         return kResultOk;

@@ -45,11 +45,33 @@ struct Identity {
     std::string classID;
 };
 
+/// The SDK's factory, which also remembers the context that a host gives to the library as a whole.
+/// On Linux it may offer the run loop there and nowhere else.
+class ClassFactory final : public CPluginFactory {
+public:
+    using CPluginFactory::CPluginFactory;
+
+    tresult PLUGIN_API setHostContext(FUnknown* newContext) override {
+        context = newContext;
+        return kResultOk;
+    }
+
+    [[nodiscard]] static FUnknown* hostContext() {
+        return gPluginFactory == nullptr
+                   ? nullptr
+                   : static_cast<ClassFactory*>(gPluginFactory)->context.get();
+    }
+
+private:
+    IPtr<FUnknown> context;
+};
+
 // The SDK calls these; whoever asks a factory for an object must not see an exception.
 
 FUnknown* createPlugIn(void* context) noexcept {
     try {
-        return static_cast<Vst::IComponent*>(new QMShellVST3(productOf(context)));
+        return static_cast<Vst::IComponent*>(
+            new QMShellVST3(productOf(context), ClassFactory::hostContext()));
     } catch (const std::exception& error) {
         QM::log(QM::LogLevel::error, "QMShellVST3: %s\n", error.what());
         return nullptr;
@@ -68,11 +90,11 @@ FUnknown* createCompatibility(void* context) noexcept {
     }
 }
 
-IPtr<CPluginFactory> makeFactory(const Vst3Product& product) {
+IPtr<ClassFactory> makeFactory(const Vst3Product& product) {
     const Identity identity(product);
     const PFactoryInfo info(identity.type.manufacturerName().c_str(), product.vendorUrl.c_str(),
                             product.vendorEmail.c_str(), PFactoryInfo::kUnicode);
-    auto factory = owned(new CPluginFactory(info));
+    auto factory = owned(new ClassFactory(info));
     auto* const context = const_cast<void*>(static_cast<const void*>(&product));
 
     FUID classID;

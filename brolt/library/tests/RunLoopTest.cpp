@@ -65,6 +65,19 @@ TEST_F(RunLoop, bringsTheMessagesThatTheInstanceNeeds) {
     letAllGo(instance);
 }
 
+TEST_F(RunLoop, isTakenFromTheContextThatTheLibraryAsAWholeWasGiven) {
+    const Steinberg::FUnknownPtr<Steinberg::IPluginFactory3> factory(
+        &LoadedLibrary::shared().rawFactory());
+    ASSERT_EQ(factory->setHostContext(host.unknown()), kResultOk);
+    {
+        LibraryInstance instance; // with a context that offers none
+        EXPECT_GT(host.descriptors() + host.timers(), 0U);
+    }
+    EXPECT_EQ(host.descriptors(), 0U);
+    EXPECT_EQ(factory->setHostContext(nullptr), kResultOk);
+    EXPECT_EQ(host.references(), 0U);
+}
+
 TEST_F(RunLoop, isTheOnlyPlaceWhereMessagesComeFrom) {
     auto instance = makeInstance();
     ModelTwin twin;
