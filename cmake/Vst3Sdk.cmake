@@ -101,6 +101,14 @@ brolt_add_vst3_library(vst3_base LINKS ${vst3BaseSystemLibraries} SOURCES
     public.sdk/source/vst/utility/stringconvert.cpp
     public.sdk/source/vst/vstinitiids.cpp)
 
+if(NOT WIN32)
+    # On Linux the SDK counts references by adding atomically and then reading, which two threads that
+    # let go of one object at once can both take for the last. With this it uses the standard's atomics,
+    # which C++ has in that header since C++23.
+    set_source_files_properties("${BROLT_VST3_SDK}/pluginterfaces/base/funknown.cpp" PROPERTIES
+        COMPILE_DEFINITIONS SMTG_USE_STDATOMIC_H=1 COMPILE_OPTIONS -std=c++23)
+endif()
+
 # Both plug-ins and the SDK's programs call its list.
 brolt_add_vst3_library(vst3_main LINKS vst3_base SOURCES
     public.sdk/source/main/moduleinit.cpp)

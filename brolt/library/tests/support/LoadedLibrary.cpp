@@ -44,10 +44,11 @@ LoadedLibrary::LoadedLibrary() {
     module = VST3::Hosting::Module::create(bundlePath(), reason);
     if (!module)
         throw std::runtime_error(bundlePath() + ": " + reason);
+    classes = factory().classInfos();
 }
 
 VST3::Hosting::ClassInfo LoadedLibrary::classOf(const std::string& category) const {
-    for (const VST3::Hosting::ClassInfo& each : factory().classInfos()) {
+    for (const VST3::Hosting::ClassInfo& each : classes) {
         if (each.category() == category)
             return each;
     }

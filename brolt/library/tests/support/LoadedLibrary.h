@@ -49,4 +49,6 @@ public:
 
 private:
     VST3::Hosting::Module::Ptr module;
+    /// Read once: the SDK's way of asking for them is for one thread at a time.
+    VST3::Hosting::PluginFactory::ClassInfos classes;
 };
