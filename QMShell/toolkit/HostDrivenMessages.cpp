@@ -29,12 +29,12 @@ void HostDrivenMessages::fdCallbacksChanged() {
     const std::scoped_lock lock(turn);
     const std::vector<int> list = juce::LinuxEventLoopInternal::getRegisteredFds();
     const std::set<int> wanted(list.begin(), list.end());
-    for (const int descriptor : std::set<int>(watched)) {
-        if (!wanted.contains(descriptor)) {
-            runLoop->unwatch(descriptor);
-            watched.erase(descriptor);
-        }
-    }
+    std::erase_if(watched, [&](int descriptor) {
+        if (wanted.contains(descriptor))
+            return false;
+        runLoop->unwatch(descriptor);
+        return true;
+    });
     for (const int descriptor : wanted) {
         if (watched.contains(descriptor))
             continue;
@@ -46,9 +46,7 @@ void HostDrivenMessages::fdCallbacksChanged() {
 }
 
 void HostDrivenMessages::deliver(int descriptor) {
-    const std::scoped_lock lock(turn);
-    juce::MessageManager::getInstance()->setCurrentThreadAsMessageThread();
-    juce::LinuxEventLoopInternal::invokeEventLoopCallbackForFd(descriptor);
+    run([descriptor] { juce::LinuxEventLoopInternal::invokeEventLoopCallbackForFd(descriptor); });
 }
 
 #endif

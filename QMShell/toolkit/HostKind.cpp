@@ -8,24 +8,6 @@
 
 namespace {
 
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool equalIgnoringCase(char a, char b) {
-    return lower(a) == lower(b);
-}
-
-bool contains(std::string_view text, std::string_view part) {
-    return std::search(text.begin(), text.end(), part.begin(), part.end(), equalIgnoringCase) !=
-           text.end();
-}
-
-bool startsWith(std::string_view text, std::string_view part) {
-    return text.size() >= part.size() &&
-           std::equal(part.begin(), part.end(), text.begin(), equalIgnoringCase);
-}
-
 enum class Look {
     name,          ///< the file name contains the text, in upper or lower case
     path,          ///< the full path does
@@ -36,7 +18,7 @@ enum class Look {
 struct HostTest {
     std::int32_t kind;
     Look look;
-    std::string_view text;
+    const char* text;
 };
 
 /// The first that matches decides.
@@ -133,16 +115,16 @@ constexpr std::array<const char*, 45> names = {
 
 static_assert(names.size() == HostKind::ownConsole + 1);
 
-bool matches(const HostTest& test, std::string_view path, std::string_view name) {
+bool matches(const HostTest& test, const juce::String& path, const juce::String& name) {
     switch (test.look) {
     case Look::name:
-        return contains(name, test.text);
+        return name.containsIgnoreCase(test.text);
     case Look::path:
-        return contains(path, test.text);
+        return path.containsIgnoreCase(test.text);
     case Look::nameStart:
-        return startsWith(name, test.text);
+        return name.startsWithIgnoreCase(test.text);
     case Look::nameExactCase:
-        return name.find(test.text) != std::string_view::npos;
+        return name.contains(test.text);
     }
     return false;
 }
@@ -160,11 +142,11 @@ std::int32_t hostKind() {
 }
 
 std::int32_t hostKindOfPath(std::string_view programPath) {
-    const std::size_t separator = programPath.find_last_of("/\\");
-    const std::string_view name =
-        separator == std::string_view::npos ? programPath : programPath.substr(separator + 1);
+    const auto path =
+        juce::String::fromUTF8(programPath.data(), static_cast<int>(programPath.size()));
+    const juce::String name = path.substring(path.lastIndexOfAnyOf("/\\") + 1);
     const auto found = std::find_if(tests.begin(), tests.end(), [&](const HostTest& test) {
-        return matches(test, programPath, name);
+        return matches(test, path, name);
     });
     return found == tests.end() ? HostKind::unknown : found->kind;
 }

@@ -74,8 +74,3 @@ ToolkitUse::~ToolkitUse() {
 void ToolkitUse::run(const std::function<void()>& task) {
     shared().loop->run(task);
 }
-
-int ToolkitUse::count() {
-    const std::scoped_lock lock(shared().lock);
-    return shared().users;
-}

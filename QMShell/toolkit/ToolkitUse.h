@@ -22,7 +22,4 @@ public:
     /// Runs a task as part of the message thread's work and waits for it. Nothing that the message
     /// thread may wait for must be held. [any thread but audio]
     static void run(const std::function<void()>& task);
-
-    /// Users at this moment. [message thread]
-    [[nodiscard]] static int count();
 };

@@ -36,11 +36,12 @@ QMShellVST3::~QMShellVST3() {
 }
 
 tresult PLUGIN_API QMShellVST3::initialize(FUnknown* context) {
-    const tresult result = guarded("initialize", failed, [&] { return begin(context); });
+    const tresult result =
+        guarded("QMShellVST3::initialize", failed, [&] { return begin(context); });
     if (result != kResultOk)
         return result;
     // Without the lock: the message thread is waited for, and the check wants the lock.
-    const tresult watched = contained("initialize", failed, [&] {
+    const tresult watched = contained("QMShellVST3::initialize", failed, [&] {
         toolkit = std::make_unique<ToolkitUse>(runLoopOf(context));
         check = std::make_unique<RepeatingCheck>(checkPeriodMs,
                                                  [this] { checkWhetherProcessingStopped(); });
@@ -77,14 +78,13 @@ void QMShellVST3::addBuses() {
     addAudioInput(STR16("Stereo In"), SpeakerArr::kStereo);
     addAudioOutput(STR16("Stereo Out"), SpeakerArr::kStereo);
     matchInstanceToBuses();
-    hasSidechain = hosted.get()->type()->hasSidechain();
-    if (hasSidechain)
+    if (hosted.get()->type()->hasSidechain())
         addAudioInput(STR16("Sidechain In"), SpeakerArr::kMono, kAux, 0);
 }
 
 tresult PLUGIN_API QMShellVST3::terminate() {
     end();
-    return guarded("terminate", failed, [&] {
+    return guarded("QMShellVST3::terminate", failed, [&] {
         isInitialised = false;
         hosted.drop();
         return SingleComponentEffect::terminate();
@@ -98,7 +98,7 @@ void QMShellVST3::end() noexcept {
 }
 
 void QMShellVST3::checkWhetherProcessingStopped() noexcept {
-    guarded("check", false, [&] {
+    guarded("QMShellVST3::check", false, [&] {
         return hosted.resetIfStopped(processSetup.sampleRate, processSetup.maxSamplesPerBlock);
     });
 }
@@ -106,6 +106,6 @@ void QMShellVST3::checkWhetherProcessingStopped() noexcept {
 IPlugView* PLUGIN_API QMShellVST3::createView(FIDString name) {
     if (name == nullptr || !FIDStringsEqual(name, ViewType::kEditor) || !product.createEditorView)
         return nullptr;
-    return contained("createView", static_cast<IPlugView*>(nullptr),
+    return contained("QMShellVST3::createView", static_cast<IPlugView*>(nullptr),
                      [&] { return product.createEditorView(*this); });
 }

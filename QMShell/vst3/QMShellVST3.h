@@ -120,9 +120,6 @@ private:
     /// in the log; the answer is then `failure`.
     template <typename Answer, typename Work>
     Answer guarded(const char* entry, Answer failure, Work work) noexcept;
-    /// The same without the lock.
-    template <typename Answer, typename Work>
-    Answer contained(const char* entry, Answer failure, Work work) noexcept;
 
     [[nodiscard]] std::unique_ptr<IHostRunLoop> runLoopOf(Steinberg::FUnknown* context) const;
     tresult begin(Steinberg::FUnknown* context);
@@ -156,7 +153,6 @@ private:
     HostedInstance hosted;
     std::atomic<double> tempo{120.0}; ///< beats a minute; written by the audio thread
     std::atomic<int32> processMode{Steinberg::Vst::kRealtime};
-    bool hasSidechain = false;
     bool isInitialised = false;
 
     /// Of everything about the instance but process; recursive because a host may come back from

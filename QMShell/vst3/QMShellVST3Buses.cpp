@@ -34,7 +34,7 @@ tresult PLUGIN_API QMShellVST3::getBusInfo(MediaType type, BusDirection directio
                                            BusInfo& info) {
     if (!isDirection(direction) || index < 0)
         return kInvalidArgument;
-    return guarded("getBusInfo", failed,
+    return guarded("QMShellVST3::getBusInfo", failed,
                    [&] { return SingleComponentEffect::getBusInfo(type, direction, index, info); });
 }
 
@@ -42,7 +42,7 @@ tresult PLUGIN_API QMShellVST3::activateBus(MediaType type, BusDirection directi
                                             TBool state) {
     if (!isDirection(direction) || index < 0)
         return kInvalidArgument;
-    return guarded("activateBus", failed, [&] {
+    return guarded("QMShellVST3::activateBus", failed, [&] {
         return SingleComponentEffect::activateBus(type, direction, index, state);
     });
 }
@@ -58,7 +58,7 @@ tresult PLUGIN_API QMShellVST3::getBusArrangement(BusDirection direction, int32 
                                                   SpeakerArrangement& arrangement) {
     if (!isDirection(direction))
         return kInvalidArgument;
-    return guarded("getBusArrangement", failed, [&] {
+    return guarded("QMShellVST3::getBusArrangement", failed, [&] {
         const AudioBus* const bus = audioBus(direction, index);
         if (bus == nullptr)
             return kResultFalse;
@@ -72,7 +72,7 @@ tresult PLUGIN_API QMShellVST3::setBusArrangements(SpeakerArrangement* inputs, i
     if (numIns < 0 || numOuts < 0 || (numIns > 0 && inputs == nullptr) ||
         (numOuts > 0 && outputs == nullptr))
         return kInvalidArgument;
-    return guarded("setBusArrangements", failed, [&] {
+    return guarded("QMShellVST3::setBusArrangements", failed, [&] {
         if (!isInitialised)
             return kResultFalse;
         const bool applied = applyArrangements(inputs, numIns, outputs, numOuts);
@@ -136,7 +136,7 @@ void QMShellVST3::startOver() {
 }
 
 tresult PLUGIN_API QMShellVST3::setActive(TBool) {
-    return guarded("setActive", failed, [&] {
+    return guarded("QMShellVST3::setActive", failed, [&] {
         if (!isInitialised)
             return kResultFalse;
         startOver();
@@ -147,7 +147,7 @@ tresult PLUGIN_API QMShellVST3::setActive(TBool) {
 tresult PLUGIN_API QMShellVST3::setProcessing(TBool state) {
     if (state != 0)
         return kResultOk;
-    return guarded("setProcessing", failed, [&] {
+    return guarded("QMShellVST3::setProcessing", failed, [&] {
         const double sampleRate = processSetup.sampleRate;
         processingHost.setSampleRate(&sampleRate);
         hosted.reset(sampleRate);
@@ -156,7 +156,7 @@ tresult PLUGIN_API QMShellVST3::setProcessing(TBool state) {
 }
 
 tresult PLUGIN_API QMShellVST3::setupProcessing(ProcessSetup& setup) {
-    return guarded("setupProcessing", failed, [&] {
+    return guarded("QMShellVST3::setupProcessing", failed, [&] {
         processMode = setup.processMode;
         const bool isUsable = std::isfinite(setup.sampleRate) && setup.sampleRate > 0.0 &&
                               setup.maxSamplesPerBlock >= 0;
@@ -168,13 +168,13 @@ tresult PLUGIN_API QMShellVST3::setupProcessing(ProcessSetup& setup) {
 }
 
 uint32 PLUGIN_API QMShellVST3::getLatencySamples() {
-    return guarded("getLatencySamples", uint32{0}, [&] {
+    return guarded("QMShellVST3::getLatencySamples", uint32{0}, [&] {
         return hosted.get() == nullptr ? 0U : static_cast<uint32>(hosted.get()->latency());
     });
 }
 
 uint32 PLUGIN_API QMShellVST3::getTailSamples() {
-    return guarded("getTailSamples", uint32{kNoTail}, [&]() -> uint32 {
+    return guarded("QMShellVST3::getTailSamples", uint32{kNoTail}, [&]() -> uint32 {
         if (hosted.get() == nullptr)
             return kNoTail;
         const int32 seconds = hosted.get()->tailSeconds();

@@ -2,23 +2,10 @@
 // The way into the entry points of QMShellVST3: the lock, and the end of exceptions.
 #pragma once
 
+#include "QMShell/vst3/HostBoundary.h"
 #include "QMShell/vst3/QMShellVST3.h"
-#include "services/Log.h"
 
-#include <exception>
 #include <utility>
-
-template <typename Answer, typename Work>
-Answer QMShellVST3::contained(const char* entry, Answer failure, Work work) noexcept {
-    try {
-        return work();
-    } catch (const std::exception& error) {
-        QM::log(QM::LogLevel::error, "QMShellVST3::%s: %s\n", entry, error.what());
-    } catch (...) {
-        QM::log(QM::LogLevel::error, "QMShellVST3::%s: unknown exception\n", entry);
-    }
-    return failure;
-}
 
 template <typename Answer, typename Work>
 Answer QMShellVST3::guarded(const char* entry, Answer failure, Work work) noexcept {

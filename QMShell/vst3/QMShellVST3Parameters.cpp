@@ -53,12 +53,12 @@ void QMShellVST3::refreshParameters() {
 }
 
 int32 PLUGIN_API QMShellVST3::getParameterCount() {
-    return guarded("getParameterCount", int32{0},
+    return guarded("QMShellVST3::getParameterCount", int32{0},
                    [&] { return SingleComponentEffect::getParameterCount(); });
 }
 
 tresult PLUGIN_API QMShellVST3::getParameterInfo(int32 index, ParameterInfo& info) {
-    return guarded("getParameterInfo", failed,
+    return guarded("QMShellVST3::getParameterInfo", failed,
                    [&] { return SingleComponentEffect::getParameterInfo(index, info); });
 }
 
@@ -66,7 +66,7 @@ tresult PLUGIN_API QMShellVST3::getParamStringByValue(ParamID id, ParamValue nor
                                                       String128 text) {
     if (text == nullptr)
         return kInvalidArgument;
-    return guarded("getParamStringByValue", failed, [&] {
+    return guarded("QMShellVST3::getParamStringByValue", failed, [&] {
         return SingleComponentEffect::getParamStringByValue(id, normalised, text);
     });
 }
@@ -75,30 +75,30 @@ tresult PLUGIN_API QMShellVST3::getParamValueByString(ParamID id, TChar* text,
                                                       ParamValue& normalised) {
     if (text == nullptr)
         return kInvalidArgument;
-    return guarded("getParamValueByString", failed, [&] {
+    return guarded("QMShellVST3::getParamValueByString", failed, [&] {
         return SingleComponentEffect::getParamValueByString(id, text, normalised);
     });
 }
 
 ParamValue PLUGIN_API QMShellVST3::normalizedParamToPlain(ParamID id, ParamValue normalised) {
-    return guarded("normalizedParamToPlain", 0.0,
+    return guarded("QMShellVST3::normalizedParamToPlain", 0.0,
                    [&] { return SingleComponentEffect::normalizedParamToPlain(id, normalised); });
 }
 
 ParamValue PLUGIN_API QMShellVST3::plainParamToNormalized(ParamID id, ParamValue plain) {
-    return guarded("plainParamToNormalized", 0.0,
+    return guarded("QMShellVST3::plainParamToNormalized", 0.0,
                    [&] { return SingleComponentEffect::plainParamToNormalized(id, plain); });
 }
 
 ParamValue PLUGIN_API QMShellVST3::getParamNormalized(ParamID id) {
-    return guarded("getParamNormalized", 0.0, [&] {
+    return guarded("QMShellVST3::getParamNormalized", 0.0, [&] {
         const int32 index = indexOf(id);
         return index < 0 ? 0.0 : hosted.get()->normalisedValue(index);
     });
 }
 
 tresult PLUGIN_API QMShellVST3::setParamNormalized(ParamID id, ParamValue normalised) {
-    return guarded("setParamNormalized", failed, [&] {
+    return guarded("QMShellVST3::setParamNormalized", failed, [&] {
         const int32 index = indexOf(id);
         // The model would take what is no number for the smallest value.
         if (index < 0 || std::isnan(normalised))

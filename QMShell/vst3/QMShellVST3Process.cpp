@@ -100,7 +100,7 @@ tresult PLUGIN_API QMShellVST3::process(ProcessData& data) {
 void QMShellVST3::applyOfflineChanges(IParameterChanges* changes) noexcept {
     if (changes == nullptr)
         return;
-    guarded("process", false, [&] {
+    guarded("QMShellVST3::process", false, [&] {
         if (hosted.get() != nullptr)
             applyLastPoints(*changes);
         return true;

@@ -82,10 +82,10 @@ private:
 tresult PLUGIN_API QMShellVST3::setState(IBStream* stream) {
     if (stream == nullptr)
         return kInvalidArgument;
-    return contained("setState", failed, [&] {
+    return contained("QMShellVST3::setState", failed, [&] {
         StreamCopy copy(*stream);
         EntryRestorer restorer(*this);
-        const tresult result = guarded("setState", failed, [&] {
+        const tresult result = guarded("QMShellVST3::setState", failed, [&] {
             return restore(copy.bytes(), restorer) ? kResultOk : kResultFalse;
         });
         copy.finish();
@@ -110,8 +110,8 @@ tresult PLUGIN_API QMShellVST3::setComponentState(IBStream* stream) {
 tresult PLUGIN_API QMShellVST3::getState(IBStream* stream) {
     if (stream == nullptr)
         return kInvalidArgument;
-    return contained("getState", failed, [&] {
-        const auto record = guarded("getState", std::optional<QMGenericPreset>(), [&] {
+    return contained("QMShellVST3::getState", failed, [&] {
+        const auto record = guarded("QMShellVST3::getState", std::optional<QMGenericPreset>(), [&] {
             return hosted.get() == nullptr
                        ? std::nullopt
                        : std::optional(hosted.get()->getStateRecord(StateExtent::complete));

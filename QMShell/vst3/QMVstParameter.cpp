@@ -55,8 +55,7 @@ int32 flagsOf(const INoxPlugIn& instance, int32 index) {
 
 QMVstParameter::QMVstParameter(const INoxPlugIn& plugIn, int32 parameterIndex, bool publishIndex)
     : instance(plugIn)
-    , index(parameterIndex)
-    , id(plugIn.idOfIndex(parameterIndex)) {
+    , index(parameterIndex) {
     describe(publishIndex);
     valueNormalized = info.defaultNormalizedValue;
 }
@@ -69,7 +68,7 @@ void QMVstParameter::describe(bool publishIndex) {
     instance.copyName(index, shortName.data(), shortName.size());
     copyToString128(shortName.data(), info.shortTitle);
 
-    info.id = publishIndex ? static_cast<ParamID>(index) : id;
+    info.id = publishIndex ? static_cast<ParamID>(index) : instance.idOfIndex(index);
     info.unitId = kRootUnitId;
     info.flags = flagsOf(instance, index);
     info.stepCount = 0;

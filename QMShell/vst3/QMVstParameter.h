@@ -7,8 +7,6 @@
 // another name, and has to come before the controller's own.
 #include <public.sdk/source/vst/vstsinglecomponenteffect.h>
 
-#include "plugin-model/FourCharCode.h"
-
 class INoxPlugIn;
 
 class QMVstParameter final : public Steinberg::Vst::Parameter {
@@ -16,10 +14,6 @@ public:
     /// The instance must outlive it. Published under its index or its identifier.
     /// [message thread]
     QMVstParameter(const INoxPlugIn& plugIn, Steinberg::int32 parameterIndex, bool publishIndex);
-
-    [[nodiscard]] Steinberg::int32 parameterIndex() const { return index; }
-
-    [[nodiscard]] FourCharCode identifier() const { return id; }
 
     /// Takes the instance's current value over. [message thread]
     void refresh();
@@ -43,5 +37,4 @@ private:
 
     const INoxPlugIn& instance;
     Steinberg::int32 index;
-    FourCharCode id;
 };

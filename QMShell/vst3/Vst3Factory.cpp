@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QMShell/vst3/Vst3Factory.h"
 
+#include "QMShell/vst3/HostBoundary.h"
 #include "QMShell/vst3/PluginCompatibility.h"
 #include "QMShell/vst3/QMShellVST3.h"
 #include "QMShell/vst3/Vst3ClassID.h"
@@ -8,7 +9,6 @@
 #include "QMShell/vst3/Vst3SubCategories.h"
 #include "plugin-model/INoxPlugInType.h"
 #include "plugin-model/INoxPlugInTypeGroup.h"
-#include "services/Log.h"
 
 #include <pluginterfaces/base/iplugincompatibility.h>
 #include <pluginterfaces/vst/ivstcomponent.h>
@@ -69,25 +69,19 @@ private:
 // The SDK calls these; whoever asks a factory for an object must not see an exception.
 
 FUnknown* createPlugIn(void* context) noexcept {
-    try {
+    return contained("QMShellVST3", static_cast<FUnknown*>(nullptr), [&] {
         return static_cast<Vst::IComponent*>(
             new QMShellVST3(productOf(context), ClassFactory::hostContext()));
-    } catch (const std::exception& error) {
-        QM::log(QM::LogLevel::error, "QMShellVST3: %s\n", error.what());
-        return nullptr;
-    }
+    });
 }
 
 FUnknown* createCompatibility(void* context) noexcept {
-    try {
+    return contained("PluginCompatibility", static_cast<FUnknown*>(nullptr), [&] {
         const Vst3Product& product = productOf(context);
         const Identity identity(product);
         return static_cast<IPluginCompatibility*>(new PluginCompatibility(
             vst3CompatibilityText(identity.classID, product.earlierVst2Ids, identity.name)));
-    } catch (const std::exception& error) {
-        QM::log(QM::LogLevel::error, "PluginCompatibility: %s\n", error.what());
-        return nullptr;
-    }
+    });
 }
 
 IPtr<ClassFactory> makeFactory(const Vst3Product& product) {
@@ -115,15 +109,12 @@ IPtr<ClassFactory> makeFactory(const Vst3Product& product) {
 } // namespace
 
 IPluginFactory* vst3Factory(const Vst3Product& product) noexcept {
-    try {
+    return contained("GetPluginFactory", static_cast<IPluginFactory*>(nullptr), [&] {
         // The SDK forgets the pointer when the last reference goes.
         if (gPluginFactory != nullptr)
             gPluginFactory->addRef();
         else
             gPluginFactory = makeFactory(product).take();
         return gPluginFactory;
-    } catch (const std::exception& error) {
-        QM::log(QM::LogLevel::error, "GetPluginFactory: %s\n", error.what());
-        return nullptr;
-    }
+    });
 }

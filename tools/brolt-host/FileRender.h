@@ -19,7 +19,7 @@ struct RenderSummary {
     double seconds;                      ///< that reading, rendering and writing took
 };
 
-/// All output files appear at the end, or none. A trace and a plot need a form that shows the
-/// processor. Throws HostError, or Interrupted when the user ends the program. [message thread]
+/// All output files appear at the end, or none. Throws HostError, or Interrupted when the user ends
+/// the program. [message thread]
 RenderSummary renderFile(RendererFactory& factory, const RenderPlan& plan,
                          const RenderFiles& files);

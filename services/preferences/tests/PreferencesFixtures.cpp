@@ -4,20 +4,13 @@
 #include "services/preferences/PreferencesBaseFolder.h"
 #include "services/preferences/PreferencesStores.h"
 
-#include <chrono>
 #include <cstdlib>
 #include <fstream>
-#include <thread>
+#include <optional>
 
 #ifdef _WIN32
 #    include <windows.h>
 #endif
-
-// One turn of the toolkit's loop, which its own plug-in wrappers declare in the same way: the
-// public one runs until the program ends. False when there was nothing to do.
-namespace juce {
-bool dispatchNextMessageOnSystemQueue(bool returnIfNoPendingMessages);
-}
 
 namespace preferencesTest {
 namespace {
@@ -81,18 +74,6 @@ bool ToolkitTest::canRunLoop() {
 #else
     return true;
 #endif
-}
-
-bool ToolkitTest::runLoopUntil(const std::function<bool()>& condition) {
-    using Clock = std::chrono::steady_clock;
-    const auto deadline = Clock::now() + std::chrono::seconds(30);
-    while (!condition()) {
-        if (Clock::now() > deadline)
-            return false;
-        if (!juce::dispatchNextMessageOnSystemQueue(true))
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return true;
 }
 
 // A name with a character beyond ASCII, as users have them.

@@ -5,12 +5,11 @@
 
 #include "services/preferences/PreferencesStoreDescription.h"
 #include "services/tests/TemporaryDirectory.h"
+#include "tests/support/toolkit/ToolkitTest.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
-#include <optional>
 
 namespace preferencesTest {
 
@@ -25,21 +24,10 @@ const std::filesystem::path& processFolder();
 /// A process that inherits this variable takes its value for the process's folder.
 constexpr const char* processFolderVariable = "QM_TEST_PREFERENCES_FOLDER";
 
-class ToolkitTest : public ::testing::Test {
+class ToolkitTest : public ::ToolkitTest {
 protected:
     /// False on Windows where no window can be made: no timer comes through then.
     static bool canRunLoop();
-
-    /// Lets messages and timers run until the condition holds; false when it does not within half a
-    /// minute.
-    static bool runLoopUntil(const std::function<bool()>& condition);
-
-    void shutDownToolkit() { toolkit.reset(); }
-
-    void startToolkit() { toolkit.emplace(); }
-
-private:
-    std::optional<juce::ScopedJuceInitialiser_GUI> toolkit{std::in_place};
 };
 
 /// Stores that the test opens itself, in a folder of its own.

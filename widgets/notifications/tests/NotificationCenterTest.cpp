@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Notifications and who is told of them, when and how often.
+#include "tests/support/toolkit/ToolkitTest.h"
 #include "widgets/notifications/QMNotificationCenter.h"
-#include "widgets/notifications/tests/support/ToolkitTest.h"
 
 #include <memory>
 #include <optional>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Parameter changes on their way from any thread to the plug-in UI.
+#include "tests/support/toolkit/ToolkitTest.h"
 #include "widgets/notifications/QMPlugInUIParameterHandler.h"
 #include "widgets/notifications/tests/support/RecordingUI.h"
-#include "widgets/notifications/tests/support/ToolkitTest.h"
 
 #include <array>
 #include <optional>

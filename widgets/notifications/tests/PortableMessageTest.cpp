@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Messages on their way to the message thread.
+#include "tests/support/toolkit/ToolkitTest.h"
 #include "widgets/notifications/QMAsyncPortableLambdaMessage.h"
 #include "widgets/notifications/QMPortableMessageDispatcher.h"
-#include "widgets/notifications/tests/support/ToolkitTest.h"
 
 #include <memory>
 #include <vector>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Many threads change parameters while the message thread delivers them.
+#include "tests/support/toolkit/ToolkitTest.h"
 #include "widgets/notifications/QMPlugInUIParameterHandler.h"
 #include "widgets/notifications/tests/support/RecordingUI.h"
-#include "widgets/notifications/tests/support/ToolkitTest.h"
 
 #include <atomic>
 #include <map>

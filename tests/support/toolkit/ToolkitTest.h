@@ -41,6 +41,8 @@ protected:
 
     void shutDownToolkit() { toolkit.reset(); }
 
+    void startToolkit() { toolkit.emplace(); }
+
 private:
     std::optional<juce::ScopedJuceInitialiser_GUI> toolkit{std::in_place};
 };
