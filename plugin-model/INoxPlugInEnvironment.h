@@ -13,15 +13,23 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 
 class INoxPlugIn;
 class INoxPlugInType;
 class INoxPlugInTypeGroup;
+class IQMPlugInUI;
 class NoxParameterHandler;
 
 class INoxPlugInEnvironment {
 public:
     virtual ~INoxPlugInEnvironment() = default;
+
+    /// To be held while an instance of this environment is asked or changed where several threads
+    /// may do so: the host's control threads, offline processing, the message thread with the
+    /// editor. It is taken before any other lock, and with it held nobody calls the host or waits
+    /// for the message thread: both may want it. [any thread but audio]
+    virtual std::recursive_mutex& controlLock() = 0;
 
     // Host and transport.
 
@@ -75,6 +83,15 @@ public:
     /// Makes a source of a mapping document. Null for a kind of source that is not known, and in
     /// an environment without any.
     virtual std::unique_ptr<QMGenericEventSource> createEventSource(const nlohmann::json&) {
+        return nullptr;
+    }
+
+    // Editors.
+
+    /// The editor that every product has, with one control for each parameter, for an instance of
+    /// this environment; the parent is what the host's windows are to it, or null. Null in an
+    /// environment without editors. [message thread]
+    virtual std::shared_ptr<IQMPlugInUI> createGenericEditor(INoxPlugIn&, void* /*parent*/) {
         return nullptr;
     }
 

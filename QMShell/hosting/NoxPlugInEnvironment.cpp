@@ -143,6 +143,11 @@ void NoxPlugInEnvironment::parametersChanged(INoxPlugIn& plugIn, std::int32_t co
     });
 }
 
+std::shared_ptr<IQMPlugInUI> NoxPlugInEnvironment::createGenericEditor(INoxPlugIn& plugIn,
+                                                                       void* parent) {
+    return makesGenericEditor ? makesGenericEditor(plugIn, parent) : nullptr;
+}
+
 std::uint32_t NoxPlugInEnvironment::getValue(std::uint32_t key) const {
     const auto found = table.find(key);
     return found != table.end() ? found->second : 0;

@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <utility>
 #include <vector>
 
 class NoxPlugInEnvironment : public INoxPlugInEnvironment {
@@ -19,6 +20,8 @@ public:
     ~NoxPlugInEnvironment() override;
     NoxPlugInEnvironment(const NoxPlugInEnvironment&) = delete;
     NoxPlugInEnvironment& operator=(const NoxPlugInEnvironment&) = delete;
+
+    std::recursive_mutex& controlLock() override { return control; }
 
     NoxHostDescription& hostDescription() override { return description; }
 
@@ -59,6 +62,16 @@ public:
     void parametersChanged(INoxPlugIn& plugIn, std::int32_t count, const std::int32_t* indices,
                            const double* values, std::uint8_t flag) override;
 
+    using GenericEditorFactory =
+        std::function<std::shared_ptr<IQMPlugInUI>(INoxPlugIn& plugIn, void* parent)>;
+
+    /// From whoever has widgets. [message thread]
+    void setGenericEditorFactory(GenericEditorFactory factory) {
+        makesGenericEditor = std::move(factory);
+    }
+
+    std::shared_ptr<IQMPlugInUI> createGenericEditor(INoxPlugIn& plugIn, void* parent) override;
+
     [[nodiscard]] std::uint32_t getValue(std::uint32_t key) const override;
 
     void eraseValue(std::uint32_t key) override { table.erase(key); }
@@ -76,10 +89,12 @@ private:
     void tell(const INoxPlugIn& plugIn, const std::function<void(NoxParameterHandler&)>& news);
     void askProviders(std::uint64_t request);
 
+    std::recursive_mutex control;
     std::vector<INoxPlugInTypeGroup*> groups;
     std::vector<INoxPlugInType*> types;
     Listeners listeners;
     NoxTimeInfo time; ///< flags: the transport flag word
     NoxHostDescription description;
+    GenericEditorFactory makesGenericEditor;
     std::map<std::uint32_t, std::uint32_t> table;
 };

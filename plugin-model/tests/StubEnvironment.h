@@ -7,6 +7,8 @@
 
 class StubEnvironment : public INoxPlugInEnvironment {
 public:
+    std::recursive_mutex& controlLock() override { return control; }
+
     NoxHostDescription& hostDescription() override { return description; }
 
     void setHostDescription(const NoxHostDescription& newOne) override { description = newOne; }
@@ -63,5 +65,6 @@ public:
     void setValue(std::uint32_t, std::uint32_t) override {}
 
 private:
+    std::recursive_mutex control;
     NoxHostDescription description;
 };

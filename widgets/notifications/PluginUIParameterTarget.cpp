@@ -19,3 +19,13 @@ void PluginUIParameterTarget::notify(QMNotificationID id,
 void PluginUIParameterTarget::setValue(std::int32_t index, double value) {
     ui.setParameterFromUI(index, value);
 }
+
+double PluginUIParameterTarget::parameterValue(FourCharCode id) const {
+    return ui.parameterValue(ui.parameterIndex(id));
+}
+
+void PluginUIParameterTarget::setParameterValue(FourCharCode id, double value) {
+    const std::int32_t index = ui.parameterIndex(id);
+    if (index >= 0)
+        setValue(index, value);
+}

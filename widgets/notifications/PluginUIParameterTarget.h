@@ -4,11 +4,12 @@
 // with.
 #pragma once
 
+#include "widgets/notifications/QMGenericParameterTarget.h"
 #include "widgets/notifications/QMNotificationTarget.h"
 
 class IQMPlugInUIParameters;
 
-class PluginUIParameterTarget : public QMNotificationTarget {
+class PluginUIParameterTarget : public QMNotificationTarget, public QMGenericParameterTarget {
 public:
     /// Without a centre it has nobody, and deletes itself. [message thread]
     void setNotificationCenter(QMNotificationCenter* newCenter) override;
@@ -20,6 +21,9 @@ public:
 
     /// Plain units. [message thread]
     void setValue(std::int32_t index, double value);
+
+    [[nodiscard]] double parameterValue(FourCharCode id) const override;
+    void setParameterValue(FourCharCode id, double value) override;
 
 protected:
     /// The UI must outlive it.

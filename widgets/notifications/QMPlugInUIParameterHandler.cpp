@@ -15,9 +15,11 @@ bool isMessageThread() {
 } // namespace
 
 QMPlugInUIParameterHandler::QMPlugInUIParameterHandler(const INoxPlugIn* plugInToHear,
-                                                       IQMPlugInUIParameters& plugInUI)
+                                                       IQMPlugInUIParameters& plugInUI,
+                                                       std::recursive_mutex* controlLock)
     : NoxParameterHandler(plugInToHear)
-    , ui(plugInUI) {}
+    , ui(plugInUI)
+    , control(controlLock) {}
 
 QMPlugInUIParameterHandler::~QMPlugInUIParameterHandler() {
     stopTimer();
@@ -48,6 +50,15 @@ void QMPlugInUIParameterHandler::keep(std::int32_t count, const std::int32_t* in
 }
 
 void QMPlugInUIParameterHandler::timerCallback() {
+    if (control == nullptr) {
+        deliver();
+        return;
+    }
+    const std::scoped_lock guard(*control);
+    deliver();
+}
+
+void QMPlugInUIParameterHandler::deliver() {
     const std::scoped_lock guard(lock);
     if (!pendingValues.empty()) {
         std::vector<std::int32_t> indices;

@@ -5,7 +5,9 @@
 // elsewhere is kept in a map, the latest value of each parameter, under one lock; a timer of 30 ms,
 // started by the first of them, hands the map to the UI as one batch. Automation at audio rate thus
 // costs the message queue nothing. The UI is called with the lock held, so that whoever changes
-// parameters meanwhile waits, and the next batch begins where this one ended.
+// parameters meanwhile waits, and the next batch begins where this one ended. Since the UI will ask
+// the plug-in, and those who change parameters hold the plug-in's control lock while they tell us,
+// that lock is taken first.
 #pragma once
 
 #include "plugin-model/NoxParameterHandler.h"
@@ -18,8 +20,10 @@
 
 class QMPlugInUIParameterHandler final : public NoxParameterHandler, private juce::Timer {
 public:
-    /// Listens to an instance on behalf of a UI, which must outlive it. [message thread]
-    QMPlugInUIParameterHandler(const INoxPlugIn* plugInToHear, IQMPlugInUIParameters& plugInUI);
+    /// Listens to an instance on behalf of a UI, which must outlive it. The control lock is that of
+    /// the instance's environment; null where only one thread uses the instance. [message thread]
+    QMPlugInUIParameterHandler(const INoxPlugIn* plugInToHear, IQMPlugInUIParameters& plugInUI,
+                               std::recursive_mutex* controlLock = nullptr);
     /// What was not delivered yet is dropped. To be taken from its environment before.
     /// [message thread]
     ~QMPlugInUIParameterHandler() override;
@@ -34,7 +38,10 @@ private:
     void keep(std::int32_t count, const std::int32_t* indices, const double* values);
     void timerCallback() override;
 
+    void deliver();
+
     IQMPlugInUIParameters& ui;
+    std::recursive_mutex* const control;
     std::mutex lock;
     std::map<std::int32_t, double> pendingValues;
 };

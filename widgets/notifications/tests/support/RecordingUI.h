@@ -27,6 +27,16 @@ public:
         written.emplace_back(index, value);
     }
 
+    [[nodiscard]] std::int32_t parameterIndex(FourCharCode id) const override {
+        return id == known ? 3 : -1;
+    }
+
+    [[nodiscard]] double parameterValue(std::int32_t index) const override {
+        return index == 3 ? 60.0 : 0.0;
+    }
+
+    static constexpr FourCharCode known = fourCharCode("sfre"); ///< index 3, at 60
+
     std::vector<Change> singles;
     std::vector<std::vector<Change>> batches;
     std::vector<Change> written;
