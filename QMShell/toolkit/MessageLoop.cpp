@@ -4,20 +4,16 @@
 #ifdef _WIN32
 #    include "QMShell/toolkit/SystemMessages.h"
 #else
-#    include "QMShell/toolkit/HostDrivenMessages.h"
-#    include "QMShell/toolkit/OwnMessageThread.h"
+#    include "QMShell/toolkit/LinuxMessages.h"
 #endif
 
-std::unique_ptr<MessageLoop>
-makeMessageLoop([[maybe_unused]] std::unique_ptr<IHostRunLoop> hostRunLoop) {
+#include <utility>
+
+std::shared_ptr<MessageLoop>
+makeMessageLoop([[maybe_unused]] std::shared_ptr<IHostRunLoop> hostRunLoop) {
 #ifdef _WIN32
-    return std::make_unique<SystemMessages>();
+    return std::make_shared<SystemMessages>();
 #else
-    if (hostRunLoop) {
-        auto driven = std::make_unique<HostDrivenMessages>(std::move(hostRunLoop));
-        if (driven->isDriven())
-            return driven;
-    }
-    return std::make_unique<OwnMessageThread>();
+    return LinuxMessages::make(std::move(hostRunLoop));
 #endif
 }

@@ -14,6 +14,16 @@ namespace juce {
 bool dispatchNextMessageOnSystemQueue(bool returnIfNoPendingMessages);
 } // namespace juce
 
+namespace {
+
+thread_local bool thisIsOne = false;
+
+} // namespace
+
+bool OwnMessageThread::isThisThread() {
+    return thisIsOne;
+}
+
 OwnMessageThread::OwnMessageThread()
     : thread([this] { deliver(); }) {
     isDelivering.wait(false);
@@ -24,7 +34,6 @@ OwnMessageThread::~OwnMessageThread() {
 }
 
 void OwnMessageThread::abandon() {
-    isAbandoned = true;
     endThread();
 }
 
@@ -46,14 +55,13 @@ void OwnMessageThread::run(const std::function<void()>& task) {
 void OwnMessageThread::deliver() {
     // As debuggers and system monitors show it; at most fifteen characters.
     pthread_setname_np(pthread_self(), "plug-in events");
-    auto toolkit = std::make_unique<juce::ScopedJuceInitialiser_GUI>();
+    thisIsOne = true;
+    juce::MessageManager::getInstance()->setCurrentThreadAsMessageThread();
     isDelivering = true;
     isDelivering.notify_one();
     while (!shallEnd)
         juce::dispatchNextMessageOnSystemQueue(false);
     isLeftAlone.wait(false);
-    if (isAbandoned)
-        static_cast<void>(toolkit.release());
 }
 
 #endif

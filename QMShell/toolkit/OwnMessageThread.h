@@ -1,28 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Messages on Linux in a host that offers no run loop: a thread of our own delivers them. The
-// toolkit begins and ends on that thread, so that everything of it that is bound to a thread is
-// bound to this one.
+// A thread of our own that delivers the toolkit's messages on Linux while no host lends its loop.
+// The toolkit is there before it and after it.
 #pragma once
 
 #ifndef _WIN32
 
-#    include "QMShell/toolkit/MessageLoop.h"
-
 #    include <atomic>
+#    include <functional>
 #    include <thread>
 
-class OwnMessageThread final : public MessageLoop {
+class OwnMessageThread {
 public:
-    /// The thread is delivering when this returns. [message thread]
+    /// The thread is delivering when this returns. [any thread but audio]
     OwnMessageThread();
-    /// Waits for the thread to end. [any thread but audio]
-    ~OwnMessageThread() override;
+    /// Waits for the thread to end. [any thread but audio and this]
+    ~OwnMessageThread();
     OwnMessageThread(const OwnMessageThread&) = delete;
     OwnMessageThread& operator=(const OwnMessageThread&) = delete;
 
-    void run(const std::function<void()>& task) override;
+    /// [any thread]
+    static bool isThisThread();
 
-    void abandon() override;
+    /// Runs a task on the thread and waits for it. [any thread but audio]
+    void run(const std::function<void()>& task);
+
+    /// Ends the thread where the process ends. [any thread but audio]
+    void abandon();
 
 private:
     void deliver();
@@ -31,7 +34,6 @@ private:
     std::atomic<bool> isDelivering{false};
     std::atomic<bool> shallEnd{false};
     std::atomic<bool> isLeftAlone{false};
-    bool isAbandoned = false; ///< set before shallEnd
     std::thread thread;
 };
 

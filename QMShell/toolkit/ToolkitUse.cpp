@@ -16,10 +16,10 @@ constexpr int tooltipDelayMs = 100000;
 struct Shared {
     std::mutex lock; ///< of the counter; hosts may make instances on several threads
     int users = 0;
-    std::unique_ptr<MessageLoop> loop;
+    std::shared_ptr<MessageLoop> loop;
     std::unique_ptr<juce::TooltipWindow> tooltips;
 
-    void begin(std::unique_ptr<IHostRunLoop> hostRunLoop) {
+    void begin(std::shared_ptr<IHostRunLoop> hostRunLoop) {
         loop = makeMessageLoop(std::move(hostRunLoop));
         loop->run(
             [this] { tooltips = std::make_unique<juce::TooltipWindow>(nullptr, tooltipDelayMs); });
@@ -35,7 +35,7 @@ struct Shared {
         if (loop)
             loop->abandon();
         static_cast<void>(tooltips.release());
-        static_cast<void>(loop.release());
+        static_cast<void>(new std::shared_ptr<MessageLoop>(loop));
     }
 };
 
@@ -57,10 +57,13 @@ struct LastResort {
 
 } // namespace
 
-ToolkitUse::ToolkitUse(std::unique_ptr<IHostRunLoop> hostRunLoop) {
+ToolkitUse::ToolkitUse(std::shared_ptr<IHostRunLoop> hostRunLoop)
+    : lent(std::move(hostRunLoop)) {
     const std::scoped_lock lock(shared().lock);
     if (shared().users == 0)
-        shared().begin(std::move(hostRunLoop));
+        shared().begin(lent);
+    else if (lent)
+        shared().loop->lend(lent);
     static const LastResort lastResort;
     ++shared().users;
 }
@@ -69,8 +72,15 @@ ToolkitUse::~ToolkitUse() {
     const std::scoped_lock lock(shared().lock);
     if (--shared().users == 0)
         shared().end();
+    else if (lent)
+        shared().loop->takeBack(lent.get());
 }
 
 void ToolkitUse::run(const std::function<void()>& task) {
     shared().loop->run(task);
+}
+
+void ToolkitUse::setTooltipsAtOnce(bool on) {
+    if (shared().tooltips)
+        shared().tooltips->setMillisecondsBeforeTipAppears(on ? 0 : tooltipDelayMs);
 }

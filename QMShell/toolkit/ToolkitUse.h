@@ -11,9 +11,9 @@
 
 class ToolkitUse {
 public:
-    /// The run loop, null where the host offers none, serves when this is the first user.
-    /// [message thread]
-    explicit ToolkitUse(std::unique_ptr<IHostRunLoop> hostRunLoop = nullptr);
+    /// The host's run loop, null where it offers none, is lent to the toolkit for as long as this
+    /// user lives (see MessageLoop). [message thread]
+    explicit ToolkitUse(std::shared_ptr<IHostRunLoop> hostRunLoop = nullptr);
     /// [message thread]
     ~ToolkitUse();
     ToolkitUse(const ToolkitUse&) = delete;
@@ -22,4 +22,11 @@ public:
     /// Runs a task as part of the message thread's work and waits for it. Nothing that the message
     /// thread may wait for must be held. [any thread but audio]
     static void run(const std::function<void()>& task);
+
+    /// Whether tooltips come at once, or practically never. For every editor of the process.
+    /// [message thread]
+    static void setTooltipsAtOnce(bool on);
+
+private:
+    std::shared_ptr<IHostRunLoop> lent;
 };
