@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# The libraries the tools use, under one name for both platforms: third_party::sndfile,
-# third_party::cli11, third_party::cimg, third_party::stb. Natively they come from Debian's
-# packages. The cross build takes what scripts/build-windows-dependencies put into
-# build/deps/windows and never looks at the machine's own headers. The targets are created only
-# where the library is found, so that the layers below the tools build without.
+# Libraries under one name for both platforms. The tools use third_party::sndfile,
+# third_party::cli11, third_party::cimg and third_party::stb, the widgets third_party::webp. Natively
+# they come from Debian's packages. The cross build takes what scripts/build-windows-dependencies put
+# into build/deps/windows and never looks at the machine's own headers. The targets are created only
+# where the library is found, so that the layers below their users build without.
 
 if(CMAKE_CROSSCOMPILING)
     set(thirdPartySearch PATHS "${BROLT_DEPENDENCIES}" NO_DEFAULT_PATH)
@@ -30,12 +30,17 @@ brolt_add_header_library(nlohmann_json nlohmann/json.hpp)
 brolt_add_header_library(cimg CImg.h DEFINITIONS cimg_display=0)
 brolt_add_header_library(stb stb/stb_image_write.h)
 
-find_path(BROLT_sndfile_INCLUDE sndfile.h ${thirdPartySearch} PATH_SUFFIXES include)
-find_library(BROLT_sndfile_LIBRARY sndfile ${thirdPartySearch} PATH_SUFFIXES lib)
-mark_as_advanced(BROLT_sndfile_INCLUDE BROLT_sndfile_LIBRARY)
-if(BROLT_sndfile_INCLUDE AND BROLT_sndfile_LIBRARY)
-    add_library(third_party::sndfile UNKNOWN IMPORTED GLOBAL)
-    set_target_properties(third_party::sndfile PROPERTIES
-        IMPORTED_LOCATION "${BROLT_sndfile_LIBRARY}"
-        INTERFACE_INCLUDE_DIRECTORIES "${BROLT_sndfile_INCLUDE}")
-endif()
+function(brolt_add_linked_library name header)
+    find_path(BROLT_${name}_INCLUDE ${header} ${thirdPartySearch} PATH_SUFFIXES include)
+    find_library(BROLT_${name}_LIBRARY ${name} ${thirdPartySearch} PATH_SUFFIXES lib)
+    mark_as_advanced(BROLT_${name}_INCLUDE BROLT_${name}_LIBRARY)
+    if(BROLT_${name}_INCLUDE AND BROLT_${name}_LIBRARY)
+        add_library(third_party::${name} UNKNOWN IMPORTED GLOBAL)
+        set_target_properties(third_party::${name} PROPERTIES
+            IMPORTED_LOCATION "${BROLT_${name}_LIBRARY}"
+            INTERFACE_INCLUDE_DIRECTORIES "${BROLT_${name}_INCLUDE}")
+    endif()
+endfunction()
+
+brolt_add_linked_library(sndfile sndfile.h)
+brolt_add_linked_library(webp webp/decode.h)
