@@ -59,6 +59,12 @@ std::int64_t AudioFileReader::read(float* interleaved, std::int64_t wanted) {
     return count;
 }
 
+void AudioFileReader::rewind() {
+    if (sf_seek(handle->file.get(), 0, SEEK_SET) != 0)
+        throw HostError::ofFile(path, "cannot be read from the beginning again");
+    position = 0;
+}
+
 void AudioFileReader::close() {
     handle->file.reset();
     position = frameCount;

@@ -30,8 +30,12 @@ public:
 
     /// Reads the next `wanted` frames or what is left of them, channels interleaved, whole numbers
     /// scaled to -1..1. Answers how many; 0 at the end. Throws HostError when the file holds fewer
-    /// frames than its header announces. [message thread]
+    /// frames than its header announces. [any thread, one at a time]
     std::int64_t read(float* interleaved, std::int64_t wanted);
+
+    /// Goes back to the first frame. Throws HostError where the file does not allow that.
+    /// [any thread, one at a time]
+    void rewind();
 
     /// Lets go of the file, which Windows does not replace while it is open. Nothing can be read
     /// afterwards. [message thread]

@@ -2,19 +2,16 @@
 #include "tools/brolt-host/CommandLine.h"
 
 #include "brolt/model/QMBrolt_ProductCodes.h"
+#include "tools/brolt-host/CommandLineParts.h"
 #include "tools/brolt-host/HostError.h"
-#include "tools/brolt-host/ParameterValueText.h"
 #include "tools/brolt-host/PlugInCommandLine.h"
 #include "tools/brolt-host/Utf8.h"
+#include "tools/brolt-host/editor/EditorCommandLine.h"
 #include "tools/brolt-host/state/StateCommandLine.h"
 
 #include <CLI/CLI.hpp>
 
-#include <cmath>
-
 namespace {
-
-constexpr std::int32_t largestBlock = 1 << 20;
 
 /// The render command's options as texts, which is what messages quote.
 struct RenderTexts {
@@ -51,23 +48,12 @@ void addRender(CLI::App& app, RenderTexts& texts) {
         ->add_option("--out-dir", texts.outputFolder,
                      "Write each input's result into FOLDER, as NAME.wav")
         ->type_name("FOLDER");
-    render
-        ->add_option("--set", texts.settings,
-                     "Set a parameter (see 'params'), in display units or by value name; may be "
-                     "repeated")
-        ->type_name("ID=VALUE")
-        ->allow_extra_args(false)
-        ->expected(1)
-        ->take_all();
+    addSettingsOption(*render, texts.settings);
     texts.state.addTo(*render);
     render->add_option("--automate", texts.automation, "Change parameters over time")
         ->type_name("FILE");
-    render->add_option("--block", texts.block, "Frames a block (512)")->type_name("N");
-    render
-        ->add_option("--channels", texts.channels,
-                     "1 or 2: the type to run, whatever the file. One channel goes to both sides, "
-                     "two are averaged for one")
-        ->type_name("N");
+    addBlockOption(*render, texts.block);
+    addChannelsOption(*render, texts.channels);
     render->add_option("--bits", texts.bits, "Samples of the output: float (default), 24 or 16")
         ->type_name("BITS");
     render
@@ -79,23 +65,6 @@ void addRender(CLI::App& app, RenderTexts& texts) {
     texts.plugIn.addTo(*render);
     texts.plugIn.addModeTo(*render);
     render->add_flag("--quiet", texts.quiet, "No progress and no report; problems are still told");
-}
-
-std::int32_t parseBlockSize(const std::string& text) {
-    const std::optional<double> number = parseNumber(text);
-    if (!number || *number < 1.0 || *number > largestBlock || *number != std::floor(*number)) {
-        throw HostError("--block " + text + ": must be a whole number from 1 to " +
-                        std::to_string(largestBlock));
-    }
-    return static_cast<std::int32_t>(*number);
-}
-
-std::optional<int> parseChannels(const std::string& text) {
-    if (text.empty())
-        return std::nullopt;
-    if (text != "1" && text != "2")
-        throw HostError("--channels " + text + ": must be 1 or 2");
-    return text == "1" ? 1 : 2;
 }
 
 SampleEncoding parseEncoding(const std::string& text) {
@@ -161,6 +130,8 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
         app.add_subcommand("info", "Tell what the plug-in is, and what its bundle says of itself");
     infoPlugIn.addTo(*infoCommand);
     const PresetCommandLine preset(app);
+    const EditorCommandLine editor(app);
+    const ScreenshotCommandLine screenshot(app);
 
     checkCommand(app, arguments);
     try {
@@ -181,5 +152,9 @@ CommandLine parseCommandLine(const std::vector<std::string>& arguments) {
         return std::visit([](auto& chosen) { return CommandLine(std::move(chosen)); },
                           *presetOptions);
     }
+    if (editor.isGiven())
+        return editor.options();
+    if (screenshot.isGiven())
+        return screenshot.options();
     return renderOptions(texts);
 }

@@ -6,6 +6,7 @@
 
 #include "tools/brolt-host/PlugInOptions.h"
 #include "tools/brolt-host/SampleEncoding.h"
+#include "tools/brolt-host/editor/EditorOptions.h"
 #include "tools/brolt-host/state/StateOptions.h"
 
 #include <cstdint>
@@ -43,8 +44,9 @@ struct TextRequest {
     std::string text;
 };
 
-using CommandLine = std::variant<RenderOptions, ParamsOptions, InfoOptions, PresetShowOptions,
-                                 PresetListOptions, PresetConvertOptions, TextRequest>;
+using CommandLine =
+    std::variant<RenderOptions, ParamsOptions, InfoOptions, PresetShowOptions, PresetListOptions,
+                 PresetConvertOptions, EditorOptions, ScreenshotOptions, TextRequest>;
 
 /// Throws HostError for options that are unknown, missing or impossible. [message thread]
 CommandLine parseCommandLine(const std::vector<std::string>& arguments);

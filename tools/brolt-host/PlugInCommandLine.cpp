@@ -24,6 +24,10 @@ void PlugInCommandLine::addTo(CLI::App& command) {
                     "What to drive: vst3, the plug-in's bundle (default), or model, the plug-in "
                     "model that is part of this program")
         ->type_name("FORM");
+    addBundleTo(command);
+}
+
+void PlugInCommandLine::addBundleTo(CLI::App& command) {
     command
         .add_option("--plugin", bundle,
                     "The VST3 bundle to load, instead of QMBrolt.vst3 beside this program")

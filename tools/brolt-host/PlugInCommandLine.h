@@ -19,6 +19,9 @@ public:
     /// [message thread]
     void addTo(CLI::App& command);
 
+    /// Adds --plugin alone, to a command that is for the bundle. [message thread]
+    void addBundleTo(CLI::App& command);
+
     /// Adds --mode to a command that processes audio. [message thread]
     void addModeTo(CLI::App& command);
 

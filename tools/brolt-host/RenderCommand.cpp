@@ -55,15 +55,11 @@ void checkOutputsDiffer(const std::vector<RenderFiles>& all, const RenderStateOp
 }
 
 RenderPlan planOf(const RenderOptions& options) {
-    ProductModel product;
     RenderPlan plan;
     plan.records = readRecords(options.state);
-    for (const std::string& text : options.settings) {
-        plan.settings.push_back(parseAssignment(product.parameters(), text));
-        if (!plan.settings.back().clampNotice.empty())
-            printMessage("--set " + text + ": " + plan.settings.back().clampNotice);
-    }
+    plan.settings = readSettings(options.settings);
     if (options.automation) {
+        ProductModel product;
         plan.automation = readAutomation(*options.automation, product.parameters());
         plan.automationName = utf8FromPath(*options.automation);
         for (const std::string& notice : plan.automation.notices)

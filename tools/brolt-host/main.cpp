@@ -12,6 +12,8 @@
 #include "tools/brolt-host/ProductModel.h"
 #include "tools/brolt-host/RenderCommand.h"
 #include "tools/brolt-host/Utf8.h"
+#include "tools/brolt-host/editor/EditorCommand.h"
+#include "tools/brolt-host/editor/ScreenshotCommand.h"
 #include "tools/brolt-host/state/PresetCommand.h"
 
 #include <cstdio>
@@ -44,6 +46,10 @@ struct CommandRunner {
     int operator()(const PresetListOptions& options) const { return runPresetList(options); }
 
     int operator()(const PresetConvertOptions& options) const { return runPresetConvert(options); }
+
+    int operator()(const EditorOptions& options) const { return runEditorCommand(options); }
+
+    int operator()(const ScreenshotOptions& options) const { return runScreenshotCommand(options); }
 
     int operator()(const TextRequest& request) const {
         print(request.text);

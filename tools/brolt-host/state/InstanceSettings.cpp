@@ -3,6 +3,7 @@
 
 #include "plugin-model/INoxPlugIn.h"
 #include "tools/brolt-host/HostError.h"
+#include "tools/brolt-host/Messages.h"
 #include "tools/brolt-host/state/StateFile.h"
 
 namespace fs = std::filesystem;
@@ -35,6 +36,17 @@ std::vector<QMGenericPreset> readRecords(const RenderStateOptions& options) {
             records.push_back(readApplicable(product, *file));
     }
     return records;
+}
+
+std::vector<ParameterSetting> readSettings(const std::vector<std::string>& assignments) {
+    ProductModel product;
+    std::vector<ParameterSetting> settings;
+    for (const std::string& text : assignments) {
+        settings.push_back(parseAssignment(product.parameters(), text));
+        if (!settings.back().clampNotice.empty())
+            printMessage("--set " + text + ": " + settings.back().clampNotice);
+    }
+    return settings;
 }
 
 std::unique_ptr<INoxPlugIn> createInstance(ProductModel& product, int channels,

@@ -9,11 +9,16 @@
 #include "tools/brolt-host/state/StateOptions.h"
 
 #include <memory>
+#include <string>
 #include <vector>
 
 /// The records of --state and --preset, in the order in which they are applied. Throws HostError
 /// for a file that cannot be read or holds settings of another product. [message thread]
 std::vector<QMGenericPreset> readRecords(const RenderStateOptions& options);
+
+/// The settings of --set. Says on standard error which values were outside their range. Throws
+/// HostError. [message thread]
+std::vector<ParameterSetting> readSettings(const std::vector<std::string>& assignments);
 
 /// An instance with the plan's records applied and settings made, without a processing host.
 /// [message thread]

@@ -64,13 +64,17 @@ std::optional<PresetOptions> PresetCommandLine::options() const {
     return std::nullopt;
 }
 
-void RenderStateCommandLine::addTo(CLI::App& render) {
-    render
+void RenderStateCommandLine::addStartTo(CLI::App& command) {
+    command
         .add_option("--state", state,
                     "Start from a saved state of any form (see 'preset convert'), before --preset")
         ->type_name("FILE");
-    render.add_option("--preset", preset, "Start from a preset; --set goes on from there")
+    command.add_option("--preset", preset, "Start from a preset; --set goes on from there")
         ->type_name("FILE.qmpreset");
+}
+
+void RenderStateCommandLine::addTo(CLI::App& render) {
+    addStartTo(render);
     render
         .add_option("--save-state", savedState,
                     "Save the settings the render starts with, in the form that the extension "

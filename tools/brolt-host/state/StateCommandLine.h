@@ -41,8 +41,11 @@ private:
 /// The render command's options about state as texts.
 class RenderStateCommandLine {
 public:
-    /// Adds the options to the render command; the object must outlive the parsing.
-    /// [message thread]
+    /// Adds --state and --preset to a command that starts from them and saves nothing; the object
+    /// must outlive the parsing. [message thread]
+    void addStartTo(CLI::App& command);
+
+    /// Adds all four options to the render command. [message thread]
     void addTo(CLI::App& render);
 
     [[nodiscard]] RenderStateOptions options() const;

@@ -14,10 +14,21 @@ void HostMessages::deliverPending() {
     }
 }
 
+void HostMessages::waitAndDeliver(std::chrono::milliseconds longest) {
+    // With "input available" a message that was seen but not taken ends the wait as well.
+    MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(longest.count()), QS_ALLINPUT,
+                                MWMO_INPUTAVAILABLE);
+    deliverPending();
+}
+
 #else
 
 void HostMessages::deliverPending() {
     loop.deliverPending();
+}
+
+void HostMessages::waitAndDeliver(std::chrono::milliseconds longest) {
+    loop.waitAndDeliver(longest);
 }
 
 #endif

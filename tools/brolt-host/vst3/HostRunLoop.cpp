@@ -3,8 +3,6 @@
 
 #ifndef _WIN32
 
-#    include <poll.h>
-
 #    include <algorithm>
 
 using namespace Steinberg;
@@ -45,10 +43,33 @@ void HostRunLoop::deliverPending() {
     deliverDue();
 }
 
-bool HostRunLoop::deliverReadable() {
+void HostRunLoop::waitAndDeliver(std::chrono::milliseconds longest) {
+    std::vector<pollfd> asked = descriptors();
+    // Interrupted by a signal, it goes on early.
+    poll(asked.data(), asked.size(), static_cast<int>(timeToNextTimer(longest).count()));
+    deliverPending();
+}
+
+std::vector<pollfd> HostRunLoop::descriptors() const {
     std::vector<pollfd> asked;
     for (const Watch& watch : watches)
         asked.push_back({watch.descriptor, POLLIN, 0});
+    return asked;
+}
+
+/// Rounded up: a millisecond's rest would be waited for in circles.
+std::chrono::milliseconds HostRunLoop::timeToNextTimer(std::chrono::milliseconds most) const {
+    constexpr std::chrono::milliseconds none(0);
+    const Clock::time_point now = Clock::now();
+    std::chrono::milliseconds shortest = most;
+    for (const Timer& timer : timers)
+        shortest =
+            std::min(shortest, std::chrono::ceil<std::chrono::milliseconds>(timer.due - now));
+    return std::max(shortest, none);
+}
+
+bool HostRunLoop::deliverReadable() {
+    std::vector<pollfd> asked = descriptors();
     if (asked.empty() || poll(asked.data(), asked.size(), 0) <= 0)
         return false;
 

@@ -2,7 +2,7 @@
 //
 // The event loop that a VST3 host on Linux lends to its plug-ins: they name file descriptors and
 // intervals, and are called when there is something to read or time has passed. Nothing happens
-// but inside deliverPending, so that a plug-in's timers run where this host wants them.
+// but inside the two deliveries, so that a plug-in's timers run where this host wants them.
 
 #pragma once
 
@@ -13,6 +13,8 @@
 
 #    include <chrono>
 #    include <vector>
+
+#    include <poll.h>
 
 // All of it, interface and delivery, is for one thread: the host's. [message thread]
 class HostRunLoop : public Steinberg::U::ImplementsNonDestroyable<
@@ -31,6 +33,10 @@ public:
     /// for once. Does not wait.
     void deliverPending();
 
+    /// Sleeps until something is readable, a timer is due, a signal comes or the time is over, and
+    /// delivers what there is.
+    void waitAndDeliver(std::chrono::milliseconds longest);
+
 private:
     using Clock = std::chrono::steady_clock;
 
@@ -45,6 +51,8 @@ private:
         Clock::time_point due;
     };
 
+    [[nodiscard]] std::vector<pollfd> descriptors() const;
+    [[nodiscard]] std::chrono::milliseconds timeToNextTimer(std::chrono::milliseconds most) const;
     bool deliverReadable();
     void deliverDue();
 

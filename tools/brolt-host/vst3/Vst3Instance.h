@@ -13,6 +13,8 @@
 #include <pluginterfaces/vst/ivsteditcontroller.h>
 #include <pluginterfaces/vst/ivstmessage.h>
 
+#include <utility>
+
 class Vst3Instance {
 public:
     /// Creates and initialises both halves, connects them where they are two, and hands the
@@ -35,6 +37,11 @@ public:
     /// Makes the main input and output mono or stereo. Throws HostError when the plug-in refuses or
     /// has other buses than one input and one output. [message thread]
     void arrangeBuses(int channels);
+
+    /// Who is told of the controller's edits; the empty function for nobody. [message thread]
+    void observeEdits(Vst3ComponentHandler::Observer observer) {
+        handler.setObserver(std::move(observer));
+    }
 
 private:
     /// With it a constructor that throws on its way still has its destructor run.

@@ -80,7 +80,7 @@ fs::path Vst3Module::standardBundle() {
 Vst3Module::Vst3Module(const fs::path& bundlePath)
     : path(wholePath(bundlePath))
     , module(load())
-    , effectID(findEffect()) {
+    , effect(findEffect()) {
     factory().setHostContext(&context);
 }
 
@@ -97,14 +97,14 @@ VST3::Hosting::Module::Ptr Vst3Module::load() const {
     return loaded;
 }
 
-VST3::UID Vst3Module::findEffect() const {
+VST3::Hosting::ClassInfo Vst3Module::findEffect() const {
     for (const VST3::Hosting::ClassInfo& info : factory().classInfos()) {
         if (info.category() == kVstAudioEffectClass)
-            return info.ID();
+            return info;
     }
     throw HostError::ofFile(path, "has no class of the category '" kVstAudioEffectClass "'");
 }
 
 Vst3EffectClass Vst3Module::effectClass() {
-    return {factory(), effectID, &context};
+    return {factory(), effect.ID(), &context};
 }

@@ -9,6 +9,7 @@
 #include "tools/brolt-host/vst3/Vst3HostContext.h"
 
 #include <filesystem>
+#include <string>
 
 class Vst3Module {
 public:
@@ -28,14 +29,17 @@ public:
     /// The first class that processes audio. [message thread]
     [[nodiscard]] Vst3EffectClass effectClass();
 
+    /// The name of that class in UTF-8, which users know the plug-in by. [any thread]
+    [[nodiscard]] const std::string& effectName() const { return effect.name(); }
+
     [[nodiscard]] HostMessages& messages() { return context.messages(); }
 
 private:
     [[nodiscard]] VST3::Hosting::Module::Ptr load() const;
-    [[nodiscard]] VST3::UID findEffect() const;
+    [[nodiscard]] VST3::Hosting::ClassInfo findEffect() const;
 
     std::filesystem::path path;
     Vst3HostContext context;
     VST3::Hosting::Module::Ptr module; ///< goes before the context that it was told of
-    VST3::UID effectID;
+    VST3::Hosting::ClassInfo effect;
 };

@@ -51,6 +51,7 @@ Vst3Renderer::Vst3Renderer(const Vst3EffectClass& effect, HostMessages& hostMess
 }
 
 Vst3Renderer::~Vst3Renderer() {
+    instance.observeEdits({}); // the members that edits go to are about to go
     if (isProcessing)
         instance.processor().setProcessing(0);
     if (isActive)
@@ -134,7 +135,30 @@ double Vst3Renderer::parameter(std::int32_t index) const {
     return controller.normalizedParamToPlain(id, controller.getParamNormalized(id));
 }
 
+void Vst3Renderer::observeEdits(Vst3ComponentHandler::Observer observer) {
+    instance.observeEdits([this, tell = std::move(observer)](const Vst3Edit& edit) {
+        if (edit.kind == Vst3Edit::Kind::perform) {
+            const std::lock_guard lock(editsMutex);
+            editedValues.push_back(edit);
+        }
+        if (tell)
+            tell(edit);
+    });
+}
+
+void Vst3Renderer::takeEditedValues() {
+    const std::lock_guard lock(editsMutex);
+    for (const Vst3Edit& edit : editedValues) {
+        int32 position = 0;
+        constexpr int32 firstFrame = 0;
+        if (Vst::IParamValueQueue* const queue = changes.addParameterData(edit.id, position))
+            queue->addPoint(firstFrame, edit.value, position);
+    }
+    editedValues.clear();
+}
+
 void Vst3Renderer::process(float** inputs, float** outputs, std::int32_t frames) {
+    takeEditedValues();
     Vst::AudioBusBuffers input = busOf(inputs, channelCount);
     Vst::AudioBusBuffers output = busOf(outputs, channelCount);
     Vst::ProcessData data;

@@ -15,6 +15,7 @@
 #include <public.sdk/source/vst/hosting/parameterchanges.h>
 
 #include <chrono>
+#include <mutex>
 #include <vector>
 
 class INoxPlugIn;
@@ -41,6 +42,17 @@ public:
     /// Lets the plug-in's timers and messages have their turn.
     void betweenBlocks() override;
 
+    /// For what a workstation does on its window's thread while another one processes: views, and
+    /// reading values.
+    [[nodiscard]] Steinberg::Vst::IEditController& controller() const {
+        return instance.controller();
+    }
+
+    /// From now on the values of the controller's edits go into the blocks, as a workstation
+    /// returns them to the processor, and every edit is told to the observer. To be called before
+    /// another thread begins to process. [message thread]
+    void observeEdits(Vst3ComponentHandler::Observer observer);
+
 private:
     using Clock = std::chrono::steady_clock;
 
@@ -55,6 +67,7 @@ private:
 
     [[nodiscard]] Steinberg::Vst::ParamID idOf(std::int32_t index) const;
     void setThroughController(std::int32_t index, double value);
+    void takeEditedValues();
 
     HostMessages& messages;
     Vst3Instance instance;
@@ -64,6 +77,8 @@ private:
     Steinberg::Vst::ProcessContext context{};
     Steinberg::Vst::ParameterChanges changes;        ///< for the next block
     Steinberg::Vst::ParameterChanges ignoredChanges; ///< that the plug-in reports
+    std::mutex editsMutex;
+    std::vector<Vst3Edit> editedValues; ///< for the next block, guarded by the mutex
     Clock::time_point lastBlock;
     bool isActive = false;
     bool isProcessing = false;

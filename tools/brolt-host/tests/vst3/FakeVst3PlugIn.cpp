@@ -96,10 +96,13 @@ public:
     }
 
     tresult PLUGIN_API setComponentHandler(Vst::IComponentHandler* handler) override {
+        plugIn.handler = handler;
         return plugIn.answer("setComponentHandler", handler != nullptr ? "some" : "none");
     }
 
-    IPlugView* PLUGIN_API createView(FIDString) override { return nullptr; }
+    IPlugView* PLUGIN_API createView(FIDString) override {
+        return plugIn.makeView ? plugIn.makeView() : nullptr;
+    }
 
     tresult PLUGIN_API connect(Vst::IConnectionPoint*) override {
         return plugIn.answer("controller connect");

@@ -7,9 +7,11 @@
 
 #include "tools/brolt-host/vst3/Vst3EffectClass.h"
 
-#include <pluginterfaces/vst/vsttypes.h>
+#include <pluginterfaces/gui/iplugview.h>
+#include <pluginterfaces/vst/ivsteditcontroller.h>
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -39,13 +41,15 @@ struct FakeVst3PlugIn {
     bool isSeparate = false;  ///< the edit controller is an object of its own
     bool hasProcessor = true; ///< the component processes audio
     int inputBuses = 1;
-    std::string refused; ///< the operation that answers false
+    std::string refused;                             ///< the operation that answers false
+    std::function<Steinberg::IPlugView*()> makeView; ///< the answer of createView; else null
 
     // To be asked.
     std::vector<std::string> calls; ///< names of the operations and what matters of their arguments
     std::vector<FakeBlock> blocks;
     std::vector<std::byte> state; ///< of the last setState
     Steinberg::FUnknown* context = nullptr;
+    Steinberg::Vst::IComponentHandler* handler = nullptr;
     int livingObjects = 0;
 
     /// The fake must outlive what is made of it.

@@ -126,6 +126,49 @@ TEST(HostRunLoop, aTimerRunsOnceForHoweverMuchTimeHasPassed) {
     EXPECT_EQ(loop.unregisterTimer(&ticker), kResultFalse);
 }
 
+TEST(HostRunLoop, waitsForSomethingToRead) {
+    HostRunLoop loop;
+    const Pipe pipe;
+    int calls = 0;
+    Reader reader([&] { calls += pipe.readOne(); });
+    loop.registerEventHandler(&reader, pipe.readingEnd());
+    pipe.fill(1);
+    const auto begin = std::chrono::steady_clock::now();
+    loop.waitAndDeliver(std::chrono::minutes(1));
+    EXPECT_EQ(calls, 1);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(30));
+    loop.unregisterEventHandler(&reader);
+}
+
+TEST(HostRunLoop, waitsForATimerAndNoLonger) {
+    HostRunLoop loop;
+    Ticker ticker;
+    loop.registerTimer(&ticker, 20);
+    const auto begin = std::chrono::steady_clock::now();
+    loop.waitAndDeliver(std::chrono::minutes(1));
+    const auto waited = std::chrono::steady_clock::now() - begin;
+    EXPECT_EQ(ticker.ticks, 1);
+    EXPECT_LT(waited, std::chrono::seconds(30));
+    loop.unregisterTimer(&ticker);
+}
+
+TEST(HostRunLoop, waitsNoLongerThanItWasTold) {
+    HostRunLoop loop;
+    const Pipe pipe;
+    Ticker ticker;
+    Reader reader([] {});
+    loop.registerEventHandler(&reader, pipe.readingEnd());
+    loop.registerTimer(&ticker, 3'600'000);
+    const auto begin = std::chrono::steady_clock::now();
+    loop.waitAndDeliver(std::chrono::milliseconds(10));
+    const auto waited = std::chrono::steady_clock::now() - begin;
+    EXPECT_GE(waited, std::chrono::milliseconds(9)); // the system's clocks need not agree wholly
+    EXPECT_LT(waited, std::chrono::seconds(30));
+    EXPECT_EQ(ticker.ticks, 0);
+    loop.unregisterTimer(&ticker);
+    loop.unregisterEventHandler(&reader);
+}
+
 TEST(HostRunLoop, refusesWhatMakesNoSense) {
     HostRunLoop loop;
     Ticker ticker;

@@ -156,3 +156,28 @@ TEST_F(Vst3RendererTest, aParameterThatThePlugInLacksIsRefused) {
     EXPECT_EQ(errorOf([&] { renderer->setParameter(15, 0.0); }),
               "the VST3 plug-in has 15 parameters and none of index 15");
 }
+
+TEST_F(Vst3RendererTest, editsOfTheControllerGoIntoTheNextBlockOnce) {
+    const auto renderer = make();
+    std::vector<Vst3Edit> told;
+    renderer->observeEdits([&](const Vst3Edit& edit) { told.push_back(edit); });
+    plugIn.handler->beginEdit(103);
+    plugIn.handler->performEdit(103, 0.25);
+    plugIn.handler->performEdit(103, 0.5);
+    plugIn.handler->performEdit(104, 1.0);
+    plugIn.handler->endEdit(103);
+    process(*renderer, {0.0F});
+    process(*renderer, {0.0F});
+    ASSERT_EQ(plugIn.blocks.size(), 2U);
+    EXPECT_EQ(plugIn.blocks[0].changes, (std::vector<FakeChange>{{103, 0, 0.5}, {104, 0, 1.0}}));
+    EXPECT_TRUE(plugIn.blocks[1].changes.empty());
+    EXPECT_EQ(told.size(), 5U);
+    EXPECT_EQ(told[2], (Vst3Edit{Vst3Edit::Kind::perform, 103, 0.5}));
+}
+
+TEST_F(Vst3RendererTest, editsThatNobodyObservesAreAccepted) {
+    const auto renderer = make();
+    EXPECT_EQ(plugIn.handler->performEdit(103, 0.25), Steinberg::kResultOk);
+    process(*renderer, {0.0F});
+    EXPECT_TRUE(plugIn.blocks.at(0).changes.empty());
+}
