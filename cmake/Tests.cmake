@@ -29,6 +29,13 @@ if(EXISTS "${BROLT_GOOGLETEST_SOURCE}/CMakeLists.txt")
     set(BUILD_GMOCK ON)
     add_subdirectory("${BROLT_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
     target_link_libraries(gtest PUBLIC Threads::Threads)
+
+    # Compiles the test library's header for all test executables; it is no test itself.
+    file(WRITE "${CMAKE_BINARY_DIR}/test-headers.cpp" "int main() {}\n")
+    add_executable(brolt_test_headers EXCLUDE_FROM_ALL "${CMAKE_BINARY_DIR}/test-headers.cpp")
+    target_link_libraries(brolt_test_headers PRIVATE brolt_settings gtest)
+    target_compile_options(brolt_test_headers PRIVATE -O0 -g1)
+    brolt_precompile(brolt_test_headers FROM brolt_test_headers HEADERS <gtest/gtest.h>)
 else()
     # ./run gets by without: it builds the program alone.
     set(BROLT_TESTS_AVAILABLE OFF)
@@ -48,13 +55,16 @@ function(brolt_register_test kind name)
 endfunction()
 
 # brolt_add_test_executable(NAME <target> SOURCES <file>... LINKS <target>...
-#                           [DEFINITIONS <definition>...] [CONCURRENCY] [NATIVE_ONLY] [OPTIMISED])
+#                           [DEFINITIONS <definition>...] [CONCURRENCY] [NATIVE_ONLY] [OPTIMISED]
+#                           [HEADERS_FROM <target> HEADERS <header>...])
 #
-# One GoogleTest executable. CONCURRENCY: runs under the thread sanitizer too. NATIVE_ONLY: exists
+# One GoogleTest executable. HEADERS_FROM: with these headers precompiled beside the test library's
+# (see brolt_precompile). CONCURRENCY: runs under the thread sanitizer too. NATIVE_ONLY: exists
 # in the native release build alone. OPTIMISED: the tests themselves compute much and are compiled
 # as what they test; others are not optimised, which takes half the time to compile.
 function(brolt_add_test_executable)
-    cmake_parse_arguments(PARSE_ARGV 0 arg "CONCURRENCY;NATIVE_ONLY;OPTIMISED" "NAME" "SOURCES;LINKS;DEFINITIONS")
+    cmake_parse_arguments(PARSE_ARGV 0 arg "CONCURRENCY;NATIVE_ONLY;OPTIMISED" "NAME;HEADERS_FROM"
+        "SOURCES;LINKS;DEFINITIONS;HEADERS")
     if(NOT BROLT_TESTS_AVAILABLE OR NOT arg_SOURCES)
         return()
     endif()
@@ -70,6 +80,11 @@ function(brolt_add_test_executable)
     target_compile_definitions(${arg_NAME} PRIVATE ${arg_DEFINITIONS})
     if(NOT arg_OPTIMISED)
         target_compile_options(${arg_NAME} PRIVATE -O0 -g1)
+    endif()
+    if(arg_HEADERS_FROM)
+        brolt_precompile(${arg_NAME} FROM ${arg_HEADERS_FROM} HEADERS ${arg_HEADERS} <gtest/gtest.h>)
+    elseif(NOT arg_OPTIMISED)
+        brolt_precompile(${arg_NAME} FROM brolt_test_headers)
     endif()
 
     add_dependencies(brolt_test_programs ${arg_NAME})
