@@ -76,7 +76,9 @@ std::optional<std::string> faultOf(const std::filesystem::path& root, const std:
     if (targetLayer == nullptr) {
         return "\"" + header + "\" belongs to no layer";
     }
-    if (targetLayer != &layer && !contains(layer.sees, targetLayer->name)) {
+    const bool isSeen = contains(layer.sees, targetLayer->name) ||
+                        (isTestFile(file) && contains(layer.testsSee, targetLayer->name));
+    if (targetLayer != &layer && !isSeen) {
         return "the " + layer.name + " layer does not see the " + targetLayer->name + " layer (\"" +
                header + "\")";
     }

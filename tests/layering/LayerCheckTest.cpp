@@ -87,6 +87,13 @@ TEST(LayerCheck, hostingDoesNotSeeTheProduct) {
                             "model layer (\"brolt/model/A.h\")"));
 }
 
+TEST(LayerCheck, testsOfAnEditorMayHaveARealPlugInAndTheEditorMayNot) {
+    EXPECT_THAT(check("widgets/ui/tests/ATest.cpp", "#include \"brolt/model/A.h\"\n"), IsEmpty());
+    EXPECT_THAT(check("widgets/ui/A.cpp", "#include \"brolt/model/A.h\"\n"),
+                ElementsAre("widgets/ui/A.cpp:1: the widgets layer does not see the product model "
+                            "layer (\"brolt/model/A.h\")"));
+}
+
 TEST(LayerCheck, testsOfALayerSeeNoMoreThanTheLayer) {
     EXPECT_THAT(check("plugin-model/tests/BTest.cpp", "#include <gtest/gtest.h>\n"
                                                       "#include \"tests/support/A.h\"\n"

@@ -18,6 +18,9 @@ struct Layer {
     // Names of the layers it may include beside itself.
     std::vector<std::string> sees;
 
+    // Names of the layers that its tests may include besides: a real plug-in for an editor to show.
+    std::vector<std::string> testsSee = {};
+
     // Headers in angle brackets it may include beside the C++ standard's. Its tests are free.
     std::vector<std::string> platformHeaders;
 

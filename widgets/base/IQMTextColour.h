@@ -5,10 +5,12 @@
 
 #include <juce_graphics/juce_graphics.h>
 
+#include <optional>
+
 class IQMTextColour {
 public:
     virtual ~IQMTextColour() = default;
 
-    /// Repaints when it changes.
-    virtual void setTextColour(juce::Colour colour) = 0;
+    /// Nothing for the colour source's. Repaints when it changes.
+    virtual void setTextColour(std::optional<juce::Colour> colour) = 0;
 };
