@@ -9,3 +9,4 @@ void registerRotationBenchmark();
 void registerControlBenchmarks();
 void registerStateBenchmarks();
 void registerLibraryBenchmarks();
+void registerEditorBenchmarks();

@@ -3,19 +3,15 @@
 // What the VST3 face costs: a block over the model's own, loading the library, an instance. Blocks
 // are short, so that what comes on top of the processing shows.
 
+#include "bench/BenchLibrary.h"
 #include "bench/BenchModel.h"
 #include "bench/Benchmarks.h"
 
 #include <benchmark/benchmark.h>
 #include <pluginterfaces/vst/ivstaudioprocessor.h>
-#include <pluginterfaces/vst/ivstcomponent.h>
 #include <pluginterfaces/vst/ivstprocesscontext.h>
-#include <public.sdk/source/vst/hosting/hostclasses.h>
-#include <public.sdk/source/vst/hosting/module.h>
 
 #include <array>
-#include <stdexcept>
-#include <string>
 
 using namespace Steinberg;
 
@@ -39,46 +35,6 @@ struct StereoBlock {
     std::array<float*, 2> outputs{leftOut.data(), rightOut.data()};
 };
 
-VST3::Hosting::Module::Ptr loadLibrary() {
-    std::string error;
-    auto module = VST3::Hosting::Module::create(BROLT_VST3_BUNDLE, error);
-    if (!module)
-        throw std::runtime_error(error);
-    return module;
-}
-
-/// An instance as the host has it after initialize.
-class LibraryPlugIn {
-public:
-    explicit LibraryPlugIn(const VST3::Hosting::Module::Ptr& module) {
-        for (const auto& each : module->getFactory().classInfos()) {
-            if (each.category() == kVstAudioEffectClass)
-                component = module->getFactory().createInstance<Vst::IComponent>(each.ID());
-        }
-        if (!component || component->initialize(&context) != kResultOk)
-            throw std::runtime_error("the library makes no plug-in");
-        processor = FUnknownPtr<Vst::IAudioProcessor>(component);
-    }
-
-    ~LibraryPlugIn() { component->terminate(); }
-
-    LibraryPlugIn(const LibraryPlugIn&) = delete;
-    LibraryPlugIn& operator=(const LibraryPlugIn&) = delete;
-
-    Vst::IAudioProcessor& start() {
-        Vst::ProcessSetup setup{Vst::kRealtime, Vst::kSample32, blockFrames, sampleRate};
-        processor->setupProcessing(setup);
-        component->setActive(true);
-        processor->setProcessing(true);
-        return *processor;
-    }
-
-private:
-    Vst::HostApplication context;
-    IPtr<Vst::IComponent> component;
-    FUnknownPtr<Vst::IAudioProcessor> processor;
-};
-
 void benchModelBlock(benchmark::State& state) {
     BenchModel model;
     const auto instance = model.newInstance();
@@ -96,7 +52,7 @@ void benchModelBlock(benchmark::State& state) {
 void benchVst3Block(benchmark::State& state) {
     const auto module = loadLibrary();
     LibraryPlugIn plugIn(module);
-    Vst::IAudioProcessor& processor = plugIn.start();
+    Vst::IAudioProcessor& processor = plugIn.start(sampleRate, blockFrames);
     StereoBlock block;
     Vst::AudioBusBuffers in;
     Vst::AudioBusBuffers out;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "QMShell/vst3/QMShellVST3.h"
 
+#include "QMShell/gui/GenericEditor.h"
 #include "QMShell/toolkit/RepeatingCheck.h"
 #include "QMShell/toolkit/ToolkitUse.h"
 #include "QMShell/vst3/QMShellVST3Guard.h"
@@ -29,6 +30,7 @@ QMShellVST3::QMShellVST3(const Vst3Product& adaptedProduct, FUnknown* hostOfLibr
     NoxHostDescription& description = environment.hostDescription();
     description.enabled = true;
     description.tempo = [this] { return tempo.load(std::memory_order_relaxed); };
+    environment.setGenericEditorFactory(genericEditorsOf(product.createEditorUI));
 }
 
 QMShellVST3::~QMShellVST3() {
@@ -53,9 +55,9 @@ tresult PLUGIN_API QMShellVST3::initialize(FUnknown* context) {
 }
 
 /// The one of the context given here; else the one that the host gave the library as a whole.
-std::unique_ptr<IHostRunLoop> QMShellVST3::runLoopOf(FUnknown* context) const {
+std::shared_ptr<IHostRunLoop> QMShellVST3::runLoopOf(FUnknown* context) const {
     auto runLoop = runLoopOfHost(context);
-    return runLoop ? std::move(runLoop) : runLoopOfHost(libraryContext);
+    return runLoop ? runLoop : runLoopOfHost(libraryContext);
 }
 
 tresult QMShellVST3::begin(FUnknown* context) {
@@ -101,11 +103,4 @@ void QMShellVST3::checkWhetherProcessingStopped() noexcept {
     guarded("QMShellVST3::check", false, [&] {
         return hosted.resetIfStopped(processSetup.sampleRate, processSetup.maxSamplesPerBlock);
     });
-}
-
-IPlugView* PLUGIN_API QMShellVST3::createView(FIDString name) {
-    if (name == nullptr || !FIDStringsEqual(name, ViewType::kEditor) || !product.createEditorView)
-        return nullptr;
-    return contained("QMShellVST3::createView", static_cast<IPlugView*>(nullptr),
-                     [&] { return product.createEditorView(*this); });
 }

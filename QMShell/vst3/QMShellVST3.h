@@ -4,14 +4,15 @@
 //   QMShellVST3.cpp             its life
 //   QMShellVST3Buses.cpp        buses, arrangements, setting up
 //   QMShellVST3Parameters.cpp   parameters
+//   QMShellVST3Editing.cpp      what the editor does to the instance
 //   QMShellVST3Process.cpp      processing
 //   QMShellVST3State.cpp        state
 //
 // Threads. process runs on the audio thread and takes no lock, except in offline mode, where it
-// sets parameters. Everything else that touches the instance holds the control lock, since hosts'
-// control threads, the message thread's check and offline processing come at the same time. The
-// host is never called with the lock held, nor is the message thread waited for: both may want it.
-// What may not run beside a block is kept apart by HostedInstance.
+// sets parameters. Everything else that touches the instance holds the environment's control lock,
+// since hosts' control threads, the message thread's check and offline processing come at the same
+// time. The host is never called with the lock held, nor is the message thread waited for: both may
+// want it. What may not run beside a block is kept apart by HostedInstance.
 #pragma once
 
 #include <public.sdk/source/vst/vstsinglecomponenteffect.h>
@@ -23,6 +24,7 @@
 
 #include <atomic>
 #include <mutex>
+#include <optional>
 
 class IHostRunLoop;
 class IStateByteStream;
@@ -103,10 +105,36 @@ public:
     /// kResultFalse, and nothing changes, for an unknown parameter or a value that is no number.
     tresult PLUGIN_API setParamNormalized(ParamID id, ParamValue normalised) override;
 
-    /// Null for any name but "editor", and while the product has no editor. [message thread]
+    /// Null for any name but "editor", and for a product without editors. [message thread]
     Steinberg::IPlugView* PLUGIN_API createView(Steinberg::FIDString name) override;
 
     Steinberg::Vst::Parameter* getParameterObject(ParamID id) override;
+
+    // For the editor of the instance. [message thread], but where something else is said
+
+    /// To be held for as long as the instance is used. [any thread but audio]
+    [[nodiscard]] std::recursive_mutex& controlLock() { return environment.controlLock(); }
+
+    /// With the control lock held; null without an instance. [any thread but audio]
+    [[nodiscard]] INoxPlugIn* currentInstance() const { return hosted.get(); }
+
+    /// Hz.
+    [[nodiscard]] double sampleRate();
+
+    /// Beats a minute.
+    [[nodiscard]] double hostTempo() const { return tempo.load(std::memory_order_relaxed); }
+
+    /// By the identifier, else taking it for an index; -1 when it is neither.
+    [[nodiscard]] int32 indexOfParameter(ParamID id);
+
+    struct EditedParameter {
+        ParamID id; ///< as the host knows it
+        ParamValue normalised;
+    };
+
+    /// Sets a parameter to what the host will make of a plain value. Answers what the host is to be
+    /// told; nothing for an unknown parameter or a value that is no number.
+    std::optional<EditedParameter> setFromEditor(ParamID id, double plain);
 
     OBJ_METHODS(QMShellVST3, Steinberg::Vst::SingleComponentEffect)
 
@@ -121,7 +149,7 @@ private:
     template <typename Answer, typename Work>
     Answer guarded(const char* entry, Answer failure, Work work) noexcept;
 
-    [[nodiscard]] std::unique_ptr<IHostRunLoop> runLoopOf(Steinberg::FUnknown* context) const;
+    [[nodiscard]] std::shared_ptr<IHostRunLoop> runLoopOf(Steinberg::FUnknown* context) const;
     tresult begin(Steinberg::FUnknown* context);
     void end() noexcept;
     void addBuses();
@@ -154,10 +182,6 @@ private:
     std::atomic<double> tempo{120.0}; ///< beats a minute; written by the audio thread
     std::atomic<int32> processMode{Steinberg::Vst::kRealtime};
     bool isInitialised = false;
-
-    /// Of everything about the instance but process; recursive because a host may come back from
-    /// the stream it is asked to read.
-    std::recursive_mutex control;
 
     std::unique_ptr<ToolkitUse> toolkit;
     std::unique_ptr<RepeatingCheck> check;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "plugin-model/FourCharCode.h"
+#include "widgets/ui/QMPlugInUIFactory.h"
 
 #include <functional>
 #include <memory>
@@ -12,11 +13,6 @@
 
 class INoxPlugInEnvironment;
 class INoxPlugInTypeGroup;
-class QMShellVST3;
-
-namespace Steinberg {
-class IPlugView;
-}
 
 struct Vst3Product {
     std::string version; ///< "4.0.2.157"
@@ -29,6 +25,6 @@ struct Vst3Product {
     bool publishesIndices = false;
     /// Index 0 of the group is the mono type, index 1 the stereo type. The environment may be null.
     std::function<std::unique_ptr<INoxPlugInTypeGroup>(INoxPlugInEnvironment*)> createTypeGroup;
-    /// Makes the editor's view of an instance. While there is none the plug-in has no editor.
-    std::function<Steinberg::IPlugView*(QMShellVST3&)> createEditorView;
+    /// Makes the editors of instances. Without it the plug-in has none.
+    QMPlugInUIFactory createEditorUI;
 };

@@ -3,7 +3,7 @@
 
 #ifdef _WIN32
 
-std::unique_ptr<IHostRunLoop> runLoopOfHost(Steinberg::FUnknown*) {
+std::shared_ptr<IHostRunLoop> runLoopOfHost(Steinberg::FUnknown*) {
     return nullptr;
 }
 
@@ -72,12 +72,12 @@ private:
 
 } // namespace
 
-std::unique_ptr<IHostRunLoop> runLoopOfHost(FUnknown* context) {
+std::shared_ptr<IHostRunLoop> runLoopOfHost(FUnknown* context) {
     Linux::IRunLoop* loop = nullptr;
     if (context == nullptr ||
         context->queryInterface(Linux::IRunLoop::iid, reinterpret_cast<void**>(&loop)) != kResultOk)
         return nullptr;
-    return std::make_unique<Vst3RunLoop>(owned(loop));
+    return std::make_shared<Vst3RunLoop>(owned(loop));
 }
 
 #endif

@@ -9,4 +9,4 @@
 #include <memory>
 
 /// Null when the host's context offers none, and on Windows. [message thread]
-std::unique_ptr<IHostRunLoop> runLoopOfHost(Steinberg::FUnknown* context);
+std::shared_ptr<IHostRunLoop> runLoopOfHost(Steinberg::FUnknown* context);

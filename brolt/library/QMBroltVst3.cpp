@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "brolt/library/QMBroltVst3.h"
 
+#include "brolt/library/QMBroltEditors.h"
 #include "brolt/model/QMBrolt_PlugInTypeGroup.h"
 #include "brolt/model/QMBrolt_ProductCodes.h"
 
@@ -21,6 +22,7 @@ Vst3Product describe() {
     product.createTypeGroup = [](INoxPlugInEnvironment* environment) {
         return std::make_unique<QMBrolt_PlugInTypeGroup>(environment);
     };
+    product.createEditorUI = broltEditors();
     return product;
 }
 

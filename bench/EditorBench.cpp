@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the editor costs: opening it in a library that is loaded already, up to its first picture; a
+// tick of its displays while nothing happens; drawing one knob again at 120 percent.
+
+#include "bench/BenchLibrary.h"
+#include "bench/Benchmarks.h"
+
+#include "QMShell/extensions/IQMEditorPicture.h"
+#include "widgets/controls/QMKnobStripWidget.h"
+
+#include <benchmark/benchmark.h>
+#include <juce_gui_basics/juce_gui_basics.h>
+
+#include <stdexcept>
+#include <vector>
+
+using namespace Steinberg;
+
+DEF_CLASS_IID(IQMEditorPicture)
+
+namespace {
+
+/// The editor that every product has, at its own size.
+class OpenEditor {
+public:
+    explicit OpenEditor(LibraryPlugIn& plugIn)
+        : view(plugIn.createEditor())
+        , picture(view) {
+        if (!picture || picture->showGenericEditor(true) != kResultOk ||
+            view->getSize(&size) != kResultOk)
+            throw std::runtime_error("the editor has no pictures");
+    }
+
+    void draw(std::vector<uint8>& pixels) {
+        constexpr std::size_t bytesOfPixel = 4;
+        pixels.resize(bytesOfPixel * static_cast<std::size_t>(size.getWidth()) *
+                      static_cast<std::size_t>(size.getHeight()));
+        if (picture->drawInto(pixels.data(), size.getWidth(), size.getHeight()) != kResultOk)
+            throw std::runtime_error("the editor does not draw");
+    }
+
+    void tick() { picture->refreshDisplays(); }
+
+private:
+    IPtr<IPlugView> view;
+    FUnknownPtr<IQMEditorPicture> picture;
+    ViewRect size;
+};
+
+void benchEditorOpen(benchmark::State& state) {
+    const auto module = loadLibrary();
+    LibraryPlugIn plugIn(module);
+    std::vector<uint8> pixels;
+    for (auto unused : state) {
+        (void)unused;
+        OpenEditor editor(plugIn);
+        editor.draw(pixels);
+    }
+}
+
+void benchEditorIdleTick(benchmark::State& state) {
+    const auto module = loadLibrary();
+    LibraryPlugIn plugIn(module);
+    OpenEditor editor(plugIn);
+    for (auto unused : state) {
+        (void)unused;
+        editor.tick();
+    }
+}
+
+/// As large as the knobs of the product's editor are at 120 percent, and never twice alike.
+void benchKnobRepaint(benchmark::State& state) {
+    constexpr int width = 96;
+    constexpr int height = 120;
+    const juce::ScopedJuceInitialiser_GUI toolkit;
+    QMKnobStripWidget knob;
+    knob.setMagnification(1.2f);
+    knob.setBounds(0, 0, width, height);
+    juce::Image picture(juce::Image::ARGB, width, height, true);
+    double value = 0.0;
+    for (auto unused : state) {
+        (void)unused;
+        value = value > 0.99 ? 0.0 : value + 0.01;
+        knob.setParameterValue(0, value, false);
+        juce::Graphics g(picture);
+        knob.paintEntireComponent(g, false);
+        benchmark::ClobberMemory();
+    }
+}
+
+} // namespace
+
+void registerEditorBenchmarks() {
+    benchmark::RegisterBenchmark("BM_EditorOpen", benchEditorOpen)->UseRealTime();
+    benchmark::RegisterBenchmark("BM_EditorIdleTick", benchEditorIdleTick)->UseRealTime();
+    benchmark::RegisterBenchmark("BM_KnobRepaint120", benchKnobRepaint);
+}
