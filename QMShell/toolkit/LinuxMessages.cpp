@@ -4,6 +4,7 @@
 #ifndef _WIN32
 
 #    include "QMShell/toolkit/OwnMessageThread.h"
+#    include "QMShell/toolkit/WindowSystemErrors.h"
 
 #    include <algorithm>
 #    include <utility>
@@ -31,6 +32,7 @@ public:
 
 private:
     std::scoped_lock<std::recursive_mutex> lock;
+    WindowSystemErrors errors;
 };
 
 std::shared_ptr<LinuxMessages> LinuxMessages::make(std::shared_ptr<IHostRunLoop> first) {

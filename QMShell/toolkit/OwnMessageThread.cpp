@@ -4,6 +4,7 @@
 #ifndef _WIN32
 
 #    include "QMShell/toolkit/ToolkitTask.h"
+#    include "QMShell/toolkit/WindowSystemErrors.h"
 
 #    include <juce_events/juce_events.h>
 
@@ -59,8 +60,11 @@ void OwnMessageThread::deliver() {
     juce::MessageManager::getInstance()->setCurrentThreadAsMessageThread();
     isDelivering = true;
     isDelivering.notify_one();
-    while (!shallEnd)
+    while (!shallEnd) {
+        // Once each time: the window system's library comes with the first window.
+        const WindowSystemErrors errors;
         juce::dispatchNextMessageOnSystemQueue(false);
+    }
     isLeftAlone.wait(false);
 }
 
