@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <string>
 
 namespace {
 
@@ -22,9 +23,11 @@ constexpr int refreshMs = 30;
 FourCharCode parameterOfName(const juce::String& name) {
     if (name == "MasterBypassID")
         return fourCharCode("mbyp");
+    std::string text = name.toStdString();
+    text.resize(4, ' ');
     FourCharCode code = 0;
-    for (int i = 0; i < 4; ++i)
-        code = (code << 8) | (static_cast<FourCharCode>(name[i]) & 0xFF);
+    for (const char character : text)
+        code = (code << 8) | static_cast<unsigned char>(character);
     return code;
 }
 

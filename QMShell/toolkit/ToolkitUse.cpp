@@ -32,10 +32,11 @@ struct Shared {
 
     /// What is still there when the process ends stays as it is, and stands still.
     void abandon() {
-        if (loop)
-            loop->abandon();
+        if (!loop)
+            return;
+        loop->abandon();
         static_cast<void>(tooltips.release());
-        static_cast<void>(new std::shared_ptr<MessageLoop>(loop));
+        static_cast<void>(new std::shared_ptr<MessageLoop>(std::move(loop)));
     }
 };
 

@@ -6,7 +6,17 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
+#include <cstdlib>
 #include <memory>
+
+#ifndef _WIN32
+namespace {
+
+/// The toolkit would show a mouse pointer in the window, which no screen knows.
+[[maybe_unused]] const int thereIsNoScreen = setenv("DISPLAY", "none", 1);
+
+} // namespace
+#endif
 
 class TestWindow final : public juce::Component {
 public:
