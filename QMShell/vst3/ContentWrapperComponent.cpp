@@ -6,6 +6,8 @@
 #include "QMShell/toolkit/HostKind.h"
 #include "widgets/base/QMWidget.h"
 
+#include <utility>
+
 namespace {
 
 /// The one with the smallest tab index; null without one.
@@ -31,6 +33,7 @@ ContentWrapperComponent::ContentWrapperComponent(QMShell_GUI& holder)
     setOpaque(true);
     // Else the first control would get the keyboard with the first click on any.
     setWantsKeyboardFocus(true);
+    addMouseListener(this, true);
     addAndMakeVisible(shown);
     setSize(shown.getWidth(), shown.getHeight());
 }
@@ -49,8 +52,26 @@ void ContentWrapperComponent::attachTo(void* window) {
 
 void ContentWrapperComponent::detach() {
     keysForHost.setWindow(nullptr);
-    if (isOnDesktop())
-        removeFromDesktop();
+    if (!isOnDesktop())
+        return;
+    releaseMouse();
+    removeFromDesktop();
+}
+
+void ContentWrapperComponent::releaseMouse() {
+    for (const juce::MouseInputSource& source : juce::Desktop::getInstance().getMouseSources()) {
+        const juce::Component* const held = source.getComponentUnderMouse();
+        if (!source.isDragging() || held == nullptr || (held != this && !isParentOf(held)))
+            continue;
+        // Outside of everything, so that a button is not taken for clicked.
+        constexpr juce::Point<float> outside(-10000.0f, -10000.0f);
+        auto& keys = juce::ModifierKeys::currentModifiers;
+        keys = keys.withoutMouseButtons();
+        getPeer()->handleMouseEvent(source.getType(), outside, keys,
+                                    juce::MouseInputSource::defaultPressure,
+                                    juce::MouseInputSource::defaultOrientation,
+                                    juce::Time::currentTimeMillis(), {}, source.getIndex());
+    }
 }
 
 void ContentWrapperComponent::resized() {
@@ -68,6 +89,30 @@ void ContentWrapperComponent::childBoundsChanged(juce::Component*) {
         setBounds(0, 0, shown.getWidth(), shown.getHeight());
 }
 
+void ContentWrapperComponent::mouseDown(const juce::MouseEvent&) {
+    noteFocusOfPress();
+}
+
+void ContentWrapperComponent::mouseUp(const juce::MouseEvent&) {
+    noteFocusOfPress();
+}
+
+void ContentWrapperComponent::noteFocusOfPress() {
+    juce::Component* const focused = getCurrentlyFocusedComponent();
+    focusOfPress = isParentOf(focused) ? focused : nullptr;
+}
+
+void ContentWrapperComponent::focusGained(FocusChangeType cause) {
+    const SafePointer<juce::Component> pressed = std::exchange(focusOfPress, nullptr);
+    if (cause == focusChangedDirectly && pressed != nullptr)
+        pressed->grabKeyboardFocus();
+}
+
+void ContentWrapperComponent::focusOfChildComponentChanged(FocusChangeType) {
+    if (!hasKeyboardFocus(true))
+        focusOfPress = nullptr;
+}
+
 bool ContentWrapperComponent::keyPressed(const juce::KeyPress& key) {
     if (key.isKeyCode(juce::KeyPress::tabKey) && hasKeyboardFocus(false)) {
         if (QMWidget* const first = firstWidgetForKeyboard(shown))
@@ -78,5 +123,7 @@ bool ContentWrapperComponent::keyPressed(const juce::KeyPress& key) {
 }
 
 bool ContentWrapperComponent::keyStateChanged(bool isKeyDown) {
-    return !isKeyDown && keysForHost.release();
+    // Else the toolkit hands a key on to the host itself on Windows as soon as it is down, before
+    // it is known whether the editor has a use for its character.
+    return isKeyDown || keysForHost.release();
 }

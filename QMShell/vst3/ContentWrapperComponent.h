@@ -24,13 +24,27 @@ public:
 
     void resized() override;
     void childBoundsChanged(juce::Component* child) override;
+    /// Of presses on anything in the editor.
+    void mouseDown(const juce::MouseEvent& event) override;
+    void mouseUp(const juce::MouseEvent& event) override;
+    void focusGained(FocusChangeType cause) override;
+    void focusOfChildComponentChanged(FocusChangeType cause) override;
     /// Of keys that the editor has no use for.
     bool keyPressed(const juce::KeyPress& key) override;
     bool keyStateChanged(bool isKeyDown) override;
 
 private:
+    /// The button that is held down in a window will never come up there once the window is gone:
+    /// what it moves ends here, and with it the gesture that the host was told of.
+    void releaseMouse();
+
+    /// X11 tells a window that it has got the keyboard only after the press that it got it by. The
+    /// toolkit then takes it from the control that was pressed.
+    void noteFocusOfPress();
+
     QMShell_GUI& gui;
     QMShell_ViewComponent& shown;
     KeysForHost keysForHost;
+    SafePointer<juce::Component> focusOfPress;
     bool isResizingView = false;
 };

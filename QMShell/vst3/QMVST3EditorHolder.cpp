@@ -64,7 +64,14 @@ bool QMVST3Editor::handleParameterMouseDown(FourCharCode id, const juce::Modifie
     const IPtr<IContextMenu> menu = owned(handler->createContextMenu(this, &tag));
     if (!menu)
         return false;
-    const juce::Point<int> place = content->getMouseXYRelative();
+    // Of the press: the mouse may have moved on since, and where it is now the toolkit reckons from
+    // the place of whichever editor's window moved last.
+    const juce::Point<int> place =
+        content
+            ->getLocalPoint(
+                nullptr,
+                juce::Desktop::getInstance().getMainMouseSource().getLastMouseDownPosition())
+            .roundToInt();
     menu->popup(place.x, place.y);
     return true;
 }
