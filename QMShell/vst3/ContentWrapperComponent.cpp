@@ -45,6 +45,7 @@ ContentWrapperComponent::~ContentWrapperComponent() {
 }
 
 void ContentWrapperComponent::attachTo(void* window) {
+    setSize(shown.getWidth(), shown.getHeight());
     addToDesktop(0, window);
     setVisible(true);
     keysForHost.setWindow(window);
@@ -56,6 +57,9 @@ void ContentWrapperComponent::detach() {
         return;
     releaseMouse();
     removeFromDesktop();
+    // Waits for the window system: if the host has destroyed its window, and ours with it, already,
+    // the errors come now, where they are dropped.
+    juce::Desktop::getMousePosition();
 }
 
 void ContentWrapperComponent::releaseMouse() {
@@ -75,6 +79,9 @@ void ContentWrapperComponent::releaseMouse() {
 }
 
 void ContentWrapperComponent::resized() {
+    // A window that the host has destroyed has no size any more; the editor still has.
+    if (getLocalBounds().isEmpty())
+        return;
     isResizingView = true;
     shown.setBounds(getLocalBounds());
     isResizingView = false;

@@ -97,7 +97,7 @@ tresult PLUGIN_API QMVST3Editor::getSize(ViewRect* size) {
     if (size == nullptr)
         return kInvalidArgument;
     return onMessageThread("QMVST3Editor::getSize", [&] {
-        const ContentWrapperComponent& shown = makeContent();
+        const QMShell_ViewComponent& shown = makeContent().view();
         *size = ViewRect(0, 0, shown.getWidth(), shown.getHeight());
         return kResultOk;
     });
@@ -188,7 +188,7 @@ tresult PLUGIN_API QMVST3Editor::refreshDisplays() {
 
 tresult PLUGIN_API QMVST3Editor::drawInto(uint8* pixels, int32 width, int32 height) {
     return onMessageThread("QMVST3Editor::drawInto", [&] {
-        ContentWrapperComponent& shown = makeContent();
+        QMShell_ViewComponent& shown = makeContent().view();
         if (pixels == nullptr || width != shown.getWidth() || height != shown.getHeight())
             return kInvalidArgument;
         const juce::Image picture = shown.createComponentSnapshot(shown.getLocalBounds(), false);

@@ -6,6 +6,8 @@
 
 #include <pluginterfaces/vst/ivstcontextmenu.h>
 
+#include <memory>
+
 using Steinberg::kNotImplemented;
 using Steinberg::kResultOk;
 using Steinberg::tresult;
@@ -158,6 +160,25 @@ TEST_F(EditorInWindow, movesToAnotherWindowOfTheHosts) {
 }
 
 // Keys.
+
+TEST_F(EditorInWindow, survivesAHostThatDestroysItsWindowFirst) {
+    Steinberg::IPlugView& view = editor->view.plugView();
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_EQ(view.removed(), kResultOk);
+        auto window = std::make_unique<EditorWindow>(editor->view.size());
+        ASSERT_EQ(view.attached(window->handle(), EditorWindow::platformType()), kResultOk);
+        ASSERT_TRUE(editor->driveUntil([&] { return window->showsChild(); }));
+        window->press(knob());
+        window.reset();
+        if (i > 0)
+            editor->frame.drive();
+    }
+    ASSERT_EQ(view.removed(), kResultOk);
+    editor->frame.drive();
+    // And is as good as before in the next.
+    ASSERT_EQ(view.attached(editor->window.handle(), EditorWindow::platformType()), kResultOk);
+    EXPECT_TRUE(editor->driveUntil([&] { return editor->window.showsChild(); }));
+}
 
 TEST_F(EditorInWindow, handsTheSpaceBarToTheHost) {
     editor->type(EditorKey::space);

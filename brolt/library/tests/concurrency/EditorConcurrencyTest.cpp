@@ -52,12 +52,13 @@ private:
     std::vector<std::thread> threads;
 };
 
-/// Another parameter and another value each time, each thread in an order of its own.
+/// Another parameter and another value each time, each thread in an order of its own. With a pause:
+/// locks are not fair, and ten threads that never let go of one leave the editor none of it.
 void automate(LibraryInstance& instance, int thread, int step) {
     const auto id = static_cast<Vst::ParamID>(thread + step) % parameterCount;
     instance.controller().setParamNormalized(id, (step * 7 + thread) % 101 / 100.0);
     (void)instance.controller().getParamNormalized(id);
-    std::this_thread::yield();
+    std::this_thread::sleep_for(200us);
 }
 
 class EditorConcurrency : public ::testing::TestWithParam<HostFrame::Loop> {
@@ -99,11 +100,8 @@ TEST_P(EditorConcurrency, automationOnTenThreadsReachesAnOpenEditor) {
     }
     // What the threads left behind is what is shown in the end: as in a view that opens now.
     EditorView fresh(instance.controller());
-    for (const Vst::ParamID id : {1U, 2U, 13U, 14U}) {
-        const EditorArea knob = view.areasOf(id).at(0);
-        const EditorPicture expected = fresh.picture(knob);
-        EXPECT_TRUE(frame.driveUntil([&] { return view.picture(knob) == expected; })) << id;
-    }
+    const EditorPicture expected = fresh.picture();
+    EXPECT_TRUE(frame.driveUntil([&] { return view.picture() == expected; }, 60s));
     EXPECT_EQ(view.plugView().removed(), kResultOk);
     EXPECT_EQ(view.plugView().setFrame(nullptr), kResultOk);
 }
@@ -148,7 +146,7 @@ TEST_P(EditorConcurrency, theInstanceIsReplacedMeanwhile) {
     }
     EXPECT_EQ(instance.component().setActive(false), kResultOk);
     EXPECT_EQ(view.as<IQMEditorPicture>()->refreshDisplays(), kResultOk);
-    EXPECT_EQ(view.areasOf(1).size(), 2U);
+    EXPECT_FALSE(view.picture().isOneColour());
     EXPECT_EQ(view.plugView().removed(), kResultOk);
     EXPECT_EQ(view.plugView().setFrame(nullptr), kResultOk);
 }
