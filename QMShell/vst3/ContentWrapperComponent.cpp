@@ -45,7 +45,7 @@ ContentWrapperComponent::~ContentWrapperComponent() {
 }
 
 void ContentWrapperComponent::attachTo(void* window) {
-    setSize(shown.getWidth(), shown.getHeight());
+    giveBounds(shown.getBounds());
     addToDesktop(0, window);
     setVisible(true);
     keysForHost.setWindow(window);
@@ -78,11 +78,9 @@ void ContentWrapperComponent::releaseMouse() {
     }
 }
 
-void ContentWrapperComponent::resized() {
-    // A window that the host has destroyed has no size any more; the editor still has.
-    if (getLocalBounds().isEmpty())
-        return;
+void ContentWrapperComponent::giveBounds(juce::Rectangle<int> bounds) {
     isResizingView = true;
+    setBounds(bounds);
     shown.setBounds(getLocalBounds());
     isResizingView = false;
 }

@@ -22,7 +22,10 @@ public:
     void attachTo(void* window);
     void detach();
 
-    void resized() override;
+    /// A size from the host: the view fills it. A window alone decides nothing: one that the host
+    /// has destroyed reports any size.
+    void giveBounds(juce::Rectangle<int> bounds);
+
     void childBoundsChanged(juce::Component* child) override;
     /// Of presses on anything in the editor.
     void mouseDown(const juce::MouseEvent& event) override;

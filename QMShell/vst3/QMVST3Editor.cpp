@@ -110,15 +110,16 @@ tresult PLUGIN_API QMVST3Editor::onSize(ViewRect* newSize) {
         setRect(*newSize);
         if (!content)
             return kResultOk;
+        const QMShell_ViewComponent& shown = content->view();
         int width = newSize->getWidth();
         int height = newSize->getHeight();
         // Else host and editor would go on correcting each other.
-        if (std::abs(width - content->getWidth()) < sizeTolerance &&
-            std::abs(height - content->getHeight()) < sizeTolerance) {
-            width = content->getWidth();
-            height = content->getHeight();
+        if (std::abs(width - shown.getWidth()) < sizeTolerance &&
+            std::abs(height - shown.getHeight()) < sizeTolerance) {
+            width = shown.getWidth();
+            height = shown.getHeight();
         }
-        content->setBounds(newSize->left, newSize->top, width, height);
+        content->giveBounds({newSize->left, newSize->top, width, height});
         content->repaint();
         return kResultOk;
     });

@@ -163,13 +163,16 @@ TEST_F(EditorInWindow, movesToAnotherWindowOfTheHosts) {
 
 TEST_F(EditorInWindow, survivesAHostThatDestroysItsWindowFirst) {
     Steinberg::IPlugView& view = editor->view.plugView();
+    const EditorPoint place = knob();
+    const EditorSize size = editor->view.size();
     for (int i = 0; i < 3; ++i) {
         ASSERT_EQ(view.removed(), kResultOk);
-        auto window = std::make_unique<EditorWindow>(editor->view.size());
+        auto window = std::make_unique<EditorWindow>(size);
         ASSERT_EQ(view.attached(window->handle(), EditorWindow::platformType()), kResultOk);
         ASSERT_TRUE(editor->driveUntil([&] { return window->showsChild(); }));
-        window->press(knob());
+        window->press(place);
         window.reset();
+        EXPECT_EQ(editor->view.size(), size);
         if (i > 0)
             editor->frame.drive();
     }
@@ -178,6 +181,7 @@ TEST_F(EditorInWindow, survivesAHostThatDestroysItsWindowFirst) {
     // And is as good as before in the next.
     ASSERT_EQ(view.attached(editor->window.handle(), EditorWindow::platformType()), kResultOk);
     EXPECT_TRUE(editor->driveUntil([&] { return editor->window.showsChild(); }));
+    EXPECT_EQ(editor->view.size(), size);
 }
 
 TEST_F(EditorInWindow, handsTheSpaceBarToTheHost) {
