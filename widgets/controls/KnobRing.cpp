@@ -42,7 +42,7 @@ std::optional<KnobRing::Arc> KnobRing::valueArc(std::int32_t mode, float value, 
     case fromMaximum:
         return Arc{quarters, quarters - travel * (1.0f - v)};
     case secondFromMaximum:
-        return Arc{quarters, quarters - travel * w};
+        return Arc{quarters, quarters - travel * (1.0f - w)};
     default:
         return std::nullopt;
     }

@@ -12,11 +12,7 @@ using Steinberg::kResultOk;
 
 namespace {
 
-#ifdef _WIN32
-constexpr int rounds = 400; // windows under Wine take their time
-#else
 constexpr int rounds = 1000;
-#endif
 /// Until then caches fill: fonts, glyphs, the window system's.
 constexpr int firstRounds = 200;
 /// The middle one of all. It is a tenth of this where nothing else is going on.

@@ -74,7 +74,7 @@ TEST_F(KnobRingTest, FromTheMaximumItComesDown) {
     expectArc(6, 1.0f, 0.3f, 135.0f, 135.0f);
     expectArc(6, 0.75f, 0.3f, 135.0f, 67.5f);
     expectArc(6, 0.0f, 0.3f, 135.0f, -135.0f);
-    expectArc(7, 0.75f, 0.5f, 135.0f, 0.0f);
+    expectArc(7, 0.75f, 0.3f, 135.0f, -54.0f);
 }
 
 TEST_F(KnobRingTest, OtherModesHaveNone) {
@@ -85,7 +85,7 @@ TEST_F(KnobRingTest, OtherModesHaveNone) {
 TEST_F(KnobRingTest, WhatIsNotANumberCountsAsZero) {
     const float notANumber = std::numeric_limits<float>::quiet_NaN();
     expectArc(2, notANumber, 0.0f, -135.0f, -135.0f);
-    expectArc(7, 0.5f, notANumber, 135.0f, 135.0f);
+    expectArc(7, 0.5f, notANumber, 135.0f, -135.0f);
     KnobRing ring;
     ring.setSecondValue(notANumber);
     EXPECT_EQ(ring.getSecondValue(), 0.0f);
