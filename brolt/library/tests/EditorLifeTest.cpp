@@ -12,7 +12,11 @@ using Steinberg::kResultOk;
 
 namespace {
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr int rounds = 300; // several times as slow as without, and as telling
+#else
 constexpr int rounds = 1000;
+#endif
 /// Until then caches fill: fonts, glyphs, the window system's.
 constexpr int firstRounds = 200;
 /// The middle one of all. It is a tenth of this where nothing else is going on.

@@ -12,7 +12,11 @@ using Steinberg::kResultOk;
 
 namespace {
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr int cycles = 25; // the sanitizer takes seconds to load a library
+#else
 constexpr int cycles = 100;
+#endif
 /// Until then caches fill: the loader's, the allocator's, the system's.
 constexpr int firstCycles = 20;
 

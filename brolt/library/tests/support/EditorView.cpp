@@ -106,11 +106,13 @@ std::optional<Vst::ParamID> EditorView::parameterAt(EditorPoint point) {
 std::vector<EditorArea> EditorView::areasOf(Vst::ParamID id) {
     std::vector<EditorArea> areas;
     const EditorSize whole = size();
-    for (int y = 0; y < whole.height; y += scanStep) {
-        for (int x = 0; x < whole.width; x += scanStep) {
+    // Large editors have large controls.
+    const int step = std::max(scanStep, whole.width / 160);
+    for (int y = 0; y < whole.height; y += step) {
+        for (int x = 0; x < whole.width; x += step) {
             if (parameterAt({x, y}) != id)
                 continue;
-            if (areas.empty() || areas.back().bottom + scanStep <= y)
+            if (areas.empty() || areas.back().bottom + step <= y)
                 areas.push_back({x, y, x + 1, y + 1});
             EditorArea& area = areas.back();
             area.left = std::min(area.left, x);
