@@ -11,6 +11,7 @@
 
 #    include <algorithm>
 #    include <atomic>
+#    include <cstddef>
 #    include <mutex>
 #    include <utility>
 #    include <vector>
@@ -44,9 +45,13 @@ int onError(Display* display, XErrorEvent* error) {
     return previous(display, error);
 }
 
-/// Nothing, and there is no connection either, as long as nobody has loaded the library. The
-/// toolkit does with its first window, and lets go of it at its end.
+/// Nothing as long as the toolkit has no connection: its own messages alone come over one
+/// descriptor. The library is there then, since the toolkit has loaded it; looking for one that is
+/// not would take longer than most messages do.
 void install(Shared& handlers) {
+    constexpr std::size_t messagesAlone = 1;
+    if (juce::LinuxEventLoopInternal::getRegisteredFds().size() <= messagesAlone)
+        return;
     handlers.library = dlopen("libX11.so.6", RTLD_LAZY | RTLD_NOLOAD);
     if (handlers.library == nullptr)
         return;

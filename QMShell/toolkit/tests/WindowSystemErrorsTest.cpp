@@ -101,12 +101,17 @@ TEST(WindowSystemErrors, AHandlerThatSomebodyPutsInMeanwhileStays) {
     const WindowSystem windowSystem;
     if (windowSystem.setErrorHandler == nullptr)
         GTEST_SKIP() << "there is no X11 library";
+    const juce::ScopedJuceInitialiser_GUI toolkit;
+    // Stands for the connection; nothing is ever read from it.
+    constexpr int someDescriptor = 2;
+    juce::LinuxEventLoop::registerFdCallback(someDescriptor, [](int) {});
     const XErrorHandler before = windowSystem.setErrorHandler(nullptr);
     {
         const WindowSystemErrors guard;
-        windowSystem.setErrorHandler(countError);
+        EXPECT_NE(windowSystem.setErrorHandler(countError), before) << "ours was in place";
     }
     EXPECT_EQ(windowSystem.setErrorHandler(before), countError);
+    juce::LinuxEventLoop::unregisterFdCallback(someDescriptor);
 }
 
 #endif
