@@ -23,7 +23,7 @@ using SetHandler = XErrorHandler (*)(XErrorHandler);
 struct Shared {
     std::mutex lock;
     int guards = 0;
-    void* library = nullptr; ///< kept while our handler is in place
+    void* x11 = nullptr; ///< kept while our handler is in place
     SetHandler setHandler = nullptr;
     std::atomic<XErrorHandler> previous{nullptr};
 };
@@ -52,22 +52,22 @@ void install(Shared& handlers) {
     constexpr std::size_t messagesAlone = 1;
     if (juce::LinuxEventLoopInternal::getRegisteredFds().size() <= messagesAlone)
         return;
-    handlers.library = dlopen("libX11.so.6", RTLD_LAZY | RTLD_NOLOAD);
-    if (handlers.library == nullptr)
+    handlers.x11 = dlopen("libX11.so.6", RTLD_LAZY | RTLD_NOLOAD);
+    if (handlers.x11 == nullptr)
         return;
-    handlers.setHandler = reinterpret_cast<SetHandler>(dlsym(handlers.library, "XSetErrorHandler"));
+    handlers.setHandler = reinterpret_cast<SetHandler>(dlsym(handlers.x11, "XSetErrorHandler"));
     handlers.previous = handlers.setHandler(onError);
 }
 
 void uninstall(Shared& handlers) {
-    if (handlers.library == nullptr)
+    if (handlers.x11 == nullptr)
         return;
     const XErrorHandler current = handlers.setHandler(handlers.previous);
     // Somebody has put one in the place of ours meanwhile: that one stays.
     if (current != onError)
         handlers.setHandler(current);
     handlers.previous = nullptr;
-    dlclose(std::exchange(handlers.library, nullptr));
+    dlclose(std::exchange(handlers.x11, nullptr));
 }
 
 } // namespace

@@ -4,28 +4,10 @@
 #include "QMShell/gui/QMShell_GUI.h"
 #include "QMShell/gui/QMShell_ViewComponent.h"
 #include "QMShell/toolkit/HostKind.h"
+#include "widgets/base/QMTabContainer.h"
 #include "widgets/base/QMWidget.h"
 
 #include <utility>
-
-namespace {
-
-/// The one with the smallest tab index; null without one.
-QMWidget* firstWidgetForKeyboard(juce::Component& component) {
-    QMWidget* first = nullptr;
-    for (juce::Component* const child : component.getChildren()) {
-        auto* candidate = dynamic_cast<QMWidget*>(child);
-        if (candidate == nullptr || !candidate->canTakeKeyboardFocus() || !candidate->isEnabled() ||
-            !candidate->isVisible())
-            candidate = firstWidgetForKeyboard(*child);
-        if (candidate != nullptr &&
-            (first == nullptr || candidate->getTabIndex() < first->getTabIndex()))
-            first = candidate;
-    }
-    return first;
-}
-
-} // namespace
 
 ContentWrapperComponent::ContentWrapperComponent(QMShell_GUI& holder)
     : gui(holder)
@@ -120,7 +102,7 @@ void ContentWrapperComponent::focusOfChildComponentChanged(FocusChangeType) {
 
 bool ContentWrapperComponent::keyPressed(const juce::KeyPress& key) {
     if (key.isKeyCode(juce::KeyPress::tabKey) && hasKeyboardFocus(false)) {
-        if (QMWidget* const first = firstWidgetForKeyboard(shown))
+        if (QMWidget* const first = QMTabContainer::firstWidgetIn(shown))
             first->takeFocus();
         return true;
     }

@@ -8,25 +8,31 @@
 
 namespace {
 
-void collect(const juce::Component& component, const QMWidget& asking,
+/// asking: one that counts whether it can take the keyboard or not; may be null.
+void collect(const juce::Component& component, const QMWidget* asking,
              std::vector<QMWidget*>& found) {
     for (juce::Component* const child : component.getChildren()) {
         auto* const widget = dynamic_cast<QMWidget*>(child);
         if (widget != nullptr &&
-            (widget == &asking || (widget->canTakeKeyboardFocus() && widget->isEnabled() &&
-                                   widget->isVisible() && widget->getNumFocusPositions() > 0)))
+            (widget == asking || (widget->canTakeKeyboardFocus() && widget->isEnabled() &&
+                                  widget->isVisible() && widget->getNumFocusPositions() > 0)))
             found.push_back(widget);
         collect(*child, asking, found);
     }
 }
 
-/// Null when nobody else can have the keyboard.
-QMWidget* neighbour(const juce::Component& container, const QMWidget& widget, bool backwards) {
+std::vector<QMWidget*> inTabOrder(const juce::Component& container, const QMWidget* asking) {
     std::vector<QMWidget*> widgets;
-    collect(container, widget, widgets);
+    collect(container, asking, widgets);
     std::stable_sort(widgets.begin(), widgets.end(), [](const QMWidget* a, const QMWidget* b) {
         return a->getTabIndex() < b->getTabIndex();
     });
+    return widgets;
+}
+
+/// Null when nobody else can have the keyboard.
+QMWidget* neighbour(const juce::Component& container, const QMWidget& widget, bool backwards) {
+    const std::vector<QMWidget*> widgets = inTabOrder(container, &widget);
     const auto here = std::find(widgets.begin(), widgets.end(), &widget);
     if (here == widgets.end() || widgets.size() < 2)
         return nullptr;
@@ -36,6 +42,11 @@ QMWidget* neighbour(const juce::Component& container, const QMWidget& widget, bo
 }
 
 } // namespace
+
+QMWidget* QMTabContainer::firstWidgetIn(const juce::Component& component) {
+    const std::vector<QMWidget*> widgets = inTabOrder(component, nullptr);
+    return widgets.empty() ? nullptr : widgets.front();
+}
 
 QMWidget* QMTabContainer::widgetAfter(const QMWidget& widget) const {
     return neighbour(*this, widget, false);

@@ -9,6 +9,9 @@ class QMWidget;
 
 class QMTabContainer : public juce::Component {
 public:
+    /// The first widget below a component, in the same order; null without one.
+    [[nodiscard]] static QMWidget* firstWidgetIn(const juce::Component& component);
+
     /// The next widget that can take the keyboard and can be seen, the first one after the last.
     /// Among equal indices the order is that of the component tree. Null when there is no other.
     [[nodiscard]] QMWidget* widgetAfter(const QMWidget& widget) const;

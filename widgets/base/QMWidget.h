@@ -238,6 +238,10 @@ protected:
 
     void setNumParameterSlots(std::uint32_t count) { numParameterSlots = count; }
 
+    /// A value from the user that is a whole gesture by itself. Whoever is told of it may end the
+    /// widget's life.
+    void writeAsGesture(std::uint32_t slot, double value);
+
     /// Anything kept back goes out before a value or the end of a gesture does.
     virtual void flushPendingOutput() {}
 
@@ -245,7 +249,6 @@ protected:
 
 private:
     void matchSlotCount();
-    void writeAsGesture(std::uint32_t slot, double value);
 
     FourCharCode widgetID = 0;
     std::int32_t touchCount = 0;

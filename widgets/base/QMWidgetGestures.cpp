@@ -62,7 +62,10 @@ bool QMWidget::pressIsTaken(const juce::MouseEvent& event) {
 }
 
 void QMWidget::writeAsGesture(std::uint32_t slot, double value) {
+    const SafePointer<QMWidget> self(this);
     beginTouch(slot);
-    writeDisplayValue(slot, value, true);
-    endTouch(slot);
+    if (self != nullptr)
+        writeDisplayValue(slot, value, true);
+    if (self != nullptr)
+        endTouch(slot);
 }

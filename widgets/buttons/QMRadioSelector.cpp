@@ -66,11 +66,7 @@ void QMRadioSelector::setMargin(int pixels) {
 
 void QMRadioSelector::choose(int index) {
     const juce::Component::SafePointer<QMRadioSelector> self(this);
-    beginTouch(0);
-    if (self != nullptr)
-        setParameterValue(0, index, true);
-    if (self != nullptr)
-        endTouch(0);
+    writeAsGesture(0, index);
     if (self == nullptr || !changeCallback)
         return;
     const ChangeCallback callback = changeCallback;

@@ -5,29 +5,23 @@
 
 namespace {
 
-constexpr double fineFactor = 0.3;
-constexpr float disabledOpacity = 0.5f;
 constexpr int gapPixels = 3; ///< between the readout and the cap
 /// What a readout that covers more than half of the fader is taken to need of it, design units.
 constexpr float usualReadoutUnits = 34.0f;
 
 } // namespace
 
-QMFaderWidget::QMFaderWidget() {
-    drawing.setCapImage(loadResourceImage("faderknob.png"));
+QMFaderWidget::QMFaderWidget()
+    : FaderControl(FaderDrawing::Direction::upwards) {
+    setCapImage(loadResourceImage("faderknob.png"));
 }
 
 QMFaderWidget::~QMFaderWidget() {
     setReadout(nullptr);
 }
 
-void QMFaderWidget::setAccentColour(juce::Colour colour) {
-    accentColour = colour;
-    repaint();
-}
-
 double QMFaderWidget::travelOf(juce::Point<int> movement, bool fine) const {
-    return -movement.y * (fine ? fineFactor : 1.0) / getTrackLength();
+    return travelOfPixels(-movement.y, fine);
 }
 
 // Room for the readout.
@@ -60,35 +54,10 @@ int QMFaderWidget::heightOfReadout() const {
     return reach + gapPixels;
 }
 
-void QMFaderWidget::arrange() {
-    drawing.setArea(getLocalBounds().withTrimmedTop(heightOfReadout()), getMagnification());
-    repaint();
-}
-
-void QMFaderWidget::resized() {
-    arrange();
+juce::Rectangle<int> QMFaderWidget::travelArea() const {
+    return getLocalBounds().withTrimmedTop(heightOfReadout());
 }
 
 void QMFaderWidget::moved() {
     arrange();
-}
-
-void QMFaderWidget::setMagnification(float factor) {
-    QMWidget::setMagnification(factor);
-    arrange();
-}
-
-// Drawing.
-
-void QMFaderWidget::positionChanged(float before) {
-    repaint(drawing.changedArea(before, getValue()));
-}
-
-void QMFaderWidget::paint(juce::Graphics& g) {
-    if (!isEnabled())
-        g.beginTransparencyLayer(disabledOpacity);
-    drawing.setColours(getContrastColour(), accentColour);
-    drawing.draw(g, getValue());
-    if (!isEnabled())
-        g.endTransparencyLayer();
 }

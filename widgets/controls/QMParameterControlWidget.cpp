@@ -70,13 +70,7 @@ void QMParameterControlWidget::nudge(double amount) {
 }
 
 void QMParameterControlWidget::resetToDefault() {
-    writeAsOneGesture(defaultValue);
-}
-
-void QMParameterControlWidget::writeAsOneGesture(double plain) {
-    beginTouch(0);
-    writeDisplayValue(0, plain, true);
-    endTouch(0);
+    writeAsGesture(0, defaultValue);
 }
 
 double QMParameterControlWidget::limited(double plain) const {

@@ -136,7 +136,6 @@ private:
     void tellReadouts(double plain);
     void step(double amount);
     [[nodiscard]] double limited(double plain) const;
-    void writeAsOneGesture(double plain);
     void closeGesture();
     void anchorAt(const juce::MouseEvent& event);
     void letGo();

@@ -45,7 +45,7 @@ void QMParameterControlWidget::mouseDown(const juce::MouseEvent& event) {
     const ControlClickOptions& options = controlClickOptions();
     const juce::ModifierKeys keys = event.mods;
     if (options.altClickResets && keys.isAltDown() && keys.isCtrlDown()) {
-        writeAsOneGesture(rangeMinimum);
+        writeAsGesture(0, rangeMinimum);
         return;
     }
     if ((options.controlClickTakesFocus && keys.isCtrlDown() && !keys.isShiftDown()) ||

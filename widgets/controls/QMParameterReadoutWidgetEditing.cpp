@@ -137,9 +137,8 @@ void QMParameterReadoutWidget::writeTyped(const juce::String& typed) {
     const double plain = limited(textTransformer->parseText(text) / displayScale + displayOffset);
     if (!std::isfinite(plain))
         return;
-    beginTouch(0);
-    writeDisplayValue(0, plain, true);
-    endTouch(0);
-    if (QMWidget* const control = getOwner())
+    const SafePointer<QMParameterReadoutWidget> self(this);
+    writeAsGesture(0, plain);
+    if (QMWidget* const control = self == nullptr ? nullptr : getOwner())
         control->setParameterValue(0, plain, false);
 }

@@ -124,12 +124,7 @@ void QMFlatPopupMenuWidget::choose(int item) {
     // The menu stood open for a while.
     if (!isEnabled() || isLocked() || item >= getStateCount() || item == getState())
         return;
-    const juce::Component::SafePointer<QMFlatPopupMenuWidget> self(this);
-    beginTouch(0);
-    if (self != nullptr)
-        setParameterValue(0, valueOfState(item), true);
-    if (self != nullptr)
-        endTouch(0);
+    writeAsGesture(0, valueOfState(item));
 }
 
 juce::AccessibilityRole QMFlatPopupMenuWidget::accessibleRole() const {
