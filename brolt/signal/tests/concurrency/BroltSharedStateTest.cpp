@@ -53,7 +53,6 @@ TEST(BroltSharedState, snapshotsAndMeterResetsWhileABlockRunsSeeWholeValues) {
 
     while (blocks.load(std::memory_order_relaxed) < 10)
         std::this_thread::yield();
-    const int blocksBefore = blocks.load(std::memory_order_relaxed);
     int outOfBounds = 0;
     for (int visit = 0; visit < visits; ++visit) {
         float snapshot[BroltState<2>::snapshotLength];
@@ -65,7 +64,9 @@ TEST(BroltSharedState, snapshotsAndMeterResetsWhileABlockRunsSeeWholeValues) {
         if (visit % 64 == 0)
             std::this_thread::yield();
     }
-    while (blocks.load(std::memory_order_relaxed) < blocksBefore + 10)
+    // Blocks that began after the last reset.
+    const int blocksAtReset = blocks.load(std::memory_order_relaxed);
+    while (blocks.load(std::memory_order_relaxed) < blocksAtReset + 10)
         std::this_thread::yield();
     stop.store(true, std::memory_order_relaxed);
     audio.join();
