@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/controls/QMFaderWidget.h"
 
+#include "widgets/controls/QMParameterReadoutWidget.h"
 #include "widgets/images/ResourceImages.h"
 
 namespace {
 
 constexpr int gapPixels = 3; ///< between the readout and the cap
-/// What a readout that covers more than half of the fader is taken to need of it, design units.
-constexpr float usualReadoutUnits = 34.0f;
 
 } // namespace
 
@@ -48,10 +47,9 @@ int QMFaderWidget::heightOfReadout() const {
     const QMWidget* const shown = readout();
     if (shown == nullptr || !shown->isVisible() || !shown->getBounds().intersects(getBounds()))
         return 0;
-    const int reach = shown->getBottom() - getY();
-    if (reach > getHeight() / 2)
-        return juce::roundToInt(usualReadoutUnits * getMagnification());
-    return reach + gapPixels;
+    const auto* const framed = dynamic_cast<const QMParameterReadoutWidget*>(shown);
+    const int bottom = framed == nullptr ? shown->getHeight() : framed->getFrameArea().getBottom();
+    return juce::jmin(shown->getY() + bottom - getY() + gapPixels, getHeight() / 2);
 }
 
 juce::Rectangle<int> QMFaderWidget::travelArea() const {

@@ -116,6 +116,13 @@ void QMKnobStripWidget::setShowValueText(bool flag) {
     repaint();
 }
 
+void QMKnobStripWidget::setTextColour(std::optional<juce::Colour> colour) {
+    if (colour == captionColour)
+        return;
+    captionColour = colour;
+    repaint();
+}
+
 // Where things are.
 
 float QMKnobStripWidget::usedLabelHeight() const {
@@ -219,7 +226,7 @@ void QMKnobStripWidget::drawLabel(juce::Graphics& g) const {
     const juce::Rectangle<int> area = getLabelArea();
     const float height = juce::jmin(WidgetStyle::fontHeight * getMagnification(),
                                     static_cast<float>(area.getHeight()) * fontOfLabelHeight);
-    g.setColour(getContrastColour());
+    g.setColour(captionColour.value_or(getContrastColour()));
     g.setFont(WidgetStyle::get().font(TypefaceStyle::plain, juce::jmax(1.0f, height)));
     g.drawFittedText(getName(), area, juce::Justification::centred, 1, leastTextScale);
 }

@@ -3,13 +3,14 @@
 // and a label. Where there is no image it is drawn. [message thread]
 #pragma once
 
+#include "widgets/base/IQMTextColour.h"
 #include "widgets/controls/DrawnKnob.h"
 #include "widgets/controls/KnobFrames.h"
 #include "widgets/controls/KnobRing.h"
 #include "widgets/controls/KnobStyleRecord.h"
 #include "widgets/controls/QMParameterControlWidget.h"
 
-class QMKnobStripWidget : public QMParameterControlWidget {
+class QMKnobStripWidget : public QMParameterControlWidget, public IQMTextColour {
 public:
     enum LabelPosition : std::int32_t { noLabel = 0, labelBelow = 1, labelAbove = 2 };
 
@@ -61,6 +62,8 @@ public:
 
     /// Whether a knob without an image shows its value in its middle.
     void setShowValueText(bool flag);
+    /// Of the caption.
+    void setTextColour(std::optional<juce::Colour> colour) override;
 
     /// Where the knob and its label are.
     [[nodiscard]] juce::Rectangle<int> getKnobArea() const;
@@ -93,4 +96,5 @@ private:
     std::int32_t labelPosition = noLabel;
     float labelHeight = 0.0f;
     bool showValueText = false;
+    std::optional<juce::Colour> captionColour;
 };

@@ -136,9 +136,32 @@ void QMParameterReadoutWidget::setGlossy(bool flag) {
     repaint();
 }
 
+void QMParameterReadoutWidget::setFrameArea(juce::Rectangle<int> partOfBounds) {
+    frameInBounds = partOfBounds;
+    resized();
+    repaint();
+}
+
+juce::Rectangle<int> QMParameterReadoutWidget::getFrameArea() const {
+    if (frameInBounds.isEmpty())
+        return getLocalBounds();
+    return (frameInBounds.toFloat() * getMagnification())
+        .toNearestIntEdges()
+        .getIntersection(getLocalBounds());
+}
+
+bool QMParameterReadoutWidget::hitTest(int x, int y) {
+    return getFrameArea().contains(x, y) && QMWidget::hitTest(x, y);
+}
+
+void QMParameterReadoutWidget::setMagnification(float factor) {
+    QMWidget::setMagnification(factor);
+    resized();
+}
+
 juce::Font QMParameterReadoutWidget::font() const {
     const float height = juce::jmin(WidgetStyle::fontHeight * getMagnification(),
-                                    static_cast<float>(getHeight()) * fontOfHeight);
+                                    static_cast<float>(getFrameArea().getHeight()) * fontOfHeight);
     return WidgetStyle::get().font(TypefaceStyle::plain, juce::jmax(1.0f, height));
 }
 
@@ -146,18 +169,20 @@ juce::Colour QMParameterReadoutWidget::shownTextColour() const {
     return textColour.value_or(getContrastColour());
 }
 
+/// From 0, 0.
 void QMParameterReadoutWidget::drawFrame(juce::Graphics& g) {
+    const juce::Rectangle<int> area = getFrameArea().withZeroOrigin();
     const juce::Image left = loadResourceImage("oglossywindowleft.png");
     const juce::Image middle = loadResourceImage("oglossywindowmiddle.png");
     const juce::Image right = loadResourceImage("oglossywindowright.png");
     if (!glossy || left.isNull() || middle.isNull() || right.isNull()) {
-        drawDrawnFrame(g, getLocalBounds().toFloat());
+        drawDrawnFrame(g, area.toFloat());
         return;
     }
     g.setColour(backgroundColour);
-    g.fillRect(1, 1, juce::jmax(0, getWidth() - 2), juce::jmax(0, getHeight() - 2));
+    g.fillRect(1, 1, juce::jmax(0, area.getWidth() - 2), juce::jmax(0, area.getHeight() - 2));
     g.setOpacity(1.0f);
-    drawGlossyFrame(g, getLocalBounds(), left, middle, right);
+    drawGlossyFrame(g, area, left, middle, right);
 }
 
 /// A sunken window: dark at its upper edge, light from below, a reflection across its upper half.
@@ -186,12 +211,12 @@ void QMParameterReadoutWidget::paint(juce::Graphics& g) {
     const bool isDim = !isEnabled();
     if (isDim)
         g.beginTransparencyLayer(disabledOpacity);
-    frame.draw(g, getLocalBounds(), [this](juce::Graphics& drawing) { drawFrame(drawing); });
+    const juce::Rectangle<int> area = getFrameArea();
+    frame.draw(g, area, [this](juce::Graphics& drawing) { drawFrame(drawing); });
     if (editor == nullptr) {
         g.setColour(shownTextColour());
         g.setFont(font());
-        g.drawFittedText(getDisplayText(), 0, 0, getWidth(), getHeight(),
-                         juce::Justification::centred, 1, 1.0f);
+        g.drawFittedText(getDisplayText(), area, juce::Justification::centred, 1, 1.0f);
     }
     if (isDim)
         g.endTransparencyLayer();
@@ -199,7 +224,7 @@ void QMParameterReadoutWidget::paint(juce::Graphics& g) {
 
 void QMParameterReadoutWidget::resized() {
     if (editor != nullptr)
-        editor->setBounds(getLocalBounds());
+        editor->setBounds(getFrameArea());
 }
 
 void QMParameterReadoutWidget::enablementChanged() {

@@ -53,6 +53,13 @@ public:
     void setBackgroundColour(juce::Colour colour);
     /// Whether the frame is made of its pictures, where they are there.
     void setGlossy(bool flag);
+    /// What part of its bounds the readout is, in design units; empty for the whole. Elsewhere it
+    /// draws nothing and lets clicks through to what it lies on.
+    void setFrameArea(juce::Rectangle<int> partOfBounds);
+    /// The same in pixels, never more than the bounds.
+    [[nodiscard]] juce::Rectangle<int> getFrameArea() const;
+    bool hitTest(int x, int y) override;
+    void setMagnification(float factor) override;
     void paint(juce::Graphics& g) override;
     void resized() override;
     void enablementChanged() override;
@@ -106,6 +113,7 @@ private:
     std::optional<juce::Colour> textColour = juce::Colour(0, 255, 0);
     juce::Colour backgroundColour{22, 24, 26};
     bool glossy = true;
+    juce::Rectangle<int> frameInBounds; ///< design units
     std::unique_ptr<QMParameterTextTransformer> textTransformer;
     juce::Component::SafePointer<QMWidget> owner;
     std::unique_ptr<juce::TextEditor> editor;

@@ -79,7 +79,7 @@ bool QMParameterReadoutWidget::openEditor(const juce::String& text, bool selectT
     editor->setPopupMenuEnabled(false);
     editor->setTitle(getName());
     editor->setText(text, false);
-    editor->setBounds(getLocalBounds());
+    editor->setBounds(getFrameArea());
     editor->addListener(this);
     addAndMakeVisible(*editor);
     editor->grabKeyboardFocus();

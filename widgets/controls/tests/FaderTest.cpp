@@ -85,12 +85,30 @@ TEST_F(FaderTest, AReadoutInItsUpperPartHasThatToItself) {
     EXPECT_EQ(fader().getTrackLength(), before);
 }
 
-TEST_F(FaderTest, AReadoutAsTallAsTheFaderLeavesItsTravel) {
+TEST_F(FaderTest, AReadoutThatIsAPartOfItsBoundsTakesNoMoreThanThatPart) {
+    QMParameterReadoutWidget readout;
+    shown.panel.addAndMakeVisible(readout);
+    const int before = fader().getTrackLength();
+    readout.setFrameArea({0, 22, 50, 18});
+    readout.setBounds(60, 62, 50, 304);
+    fader().setReadout(&readout);
+    // The frame reaches to 62 + 22 + 18 = 102, 52 below the fader's edge, and three pixels apart.
+    EXPECT_EQ(fader().getTrackLength(), before - 55);
+    // The rest of the readout's bounds is the fader's: the cap can be taken there.
+    fader().setParameterValue(0, 0.5, false);
+    const juce::Point<int> cap = fader().getCapArea().getCentre() + fader().getPosition();
+    EXPECT_TRUE(readout.getBounds().contains(cap));
+    EXPECT_EQ(shown.panel.getComponentAt(cap), &fader());
+    EXPECT_EQ(shown.panel.getComponentAt(85, 93), &readout);
+    EXPECT_EQ(shown.panel.getComponentAt(85, 75), &fader());
+}
+
+TEST_F(FaderTest, AReadoutLeavesAtLeastHalfOfTheFader) {
     QMParameterReadoutWidget readout;
     shown.panel.addAndMakeVisible(readout);
     readout.setBounds(60, 62, 50, 304);
     fader().setReadout(&readout);
-    EXPECT_GT(fader().getTrackLength(), 200);
+    EXPECT_GT(fader().getTrackLength(), fader().getHeight() / 3);
 }
 
 TEST_F(FaderTest, ATinyFaderHasATravelOfAtLeastAPixel) {

@@ -308,6 +308,29 @@ TEST_F(KnobStripTest, TheLabelIsItsNameInTheTextColour) {
     EXPECT_GT(brightest(), 0.7f);
 }
 
+TEST_F(KnobStripTest, TheLabelTakesAColourOfItsOwn) {
+    QMKnobStripWidget knob;
+    knob.setLabel(QMKnobStripWidget::labelBelow);
+    knob.setBounds(0, 0, 80, 100);
+    knob.setName("Atk. Freq");
+    const auto redPixels = [&knob] {
+        const juce::Image picture = pictureOf(knob);
+        const juce::Rectangle<int> area = knob.getLabelArea();
+        int count = 0;
+        for (int y = area.getY(); y < area.getBottom(); ++y)
+            for (int x = 0; x < area.getWidth(); ++x) {
+                const juce::Colour pixel = picture.getPixelAt(x, y);
+                count += pixel.getAlpha() > 128 && pixel.getRed() > 200 && pixel.getGreen() < 40;
+            }
+        return count;
+    };
+    EXPECT_EQ(redPixels(), 0);
+    knob.setTextColour(juce::Colour(255, 0, 0));
+    EXPECT_GT(redPixels(), 20);
+    knob.setTextColour({});
+    EXPECT_EQ(redPixels(), 0);
+}
+
 TEST_F(KnobStripTest, ADisabledKnobIsFainter) {
     QMKnobStripWidget knob;
     knob.setKnobImage(gridImage(16, 16), 271);

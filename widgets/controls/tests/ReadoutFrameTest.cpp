@@ -90,3 +90,24 @@ TEST_F(ReadoutFrameTest, ATinyReadoutDoesNoHarm) {
         readout.paint(g);
     }
 }
+
+TEST_F(ReadoutFrameTest, APartOfTheBoundsIsAllThatIsDrawn) {
+    readout.setMagnification(2.0f);
+    readout.setBounds(0, 0, 100, 240);
+    readout.setFrameArea({0, 20, 50, 18});
+    EXPECT_EQ(readout.getFrameArea(), juce::Rectangle<int>(0, 40, 100, 36));
+    const juce::Image picture = pictureOf(readout);
+    EXPECT_EQ(picture.getPixelAt(50, 30).getAlpha(), 0);
+    EXPECT_EQ(picture.getPixelAt(50, 58).getAlpha(), 255);
+    EXPECT_EQ(picture.getPixelAt(50, 90).getAlpha(), 0);
+    EXPECT_FALSE(readout.hitTest(50, 30));
+    EXPECT_TRUE(readout.hitTest(50, 58));
+    EXPECT_FALSE(readout.hitTest(50, 90));
+}
+
+TEST_F(ReadoutFrameTest, APartBeyondTheBoundsIsCutToThem) {
+    readout.setFrameArea({-10, 10, 500, 500});
+    EXPECT_EQ(readout.getFrameArea(), juce::Rectangle<int>(0, 10, 100, 14));
+    readout.setFrameArea({});
+    EXPECT_EQ(readout.getFrameArea(), juce::Rectangle<int>(0, 0, 100, 24));
+}
