@@ -6,8 +6,11 @@
 #include "widgets/images/ResourceFolder.h"
 
 #include <cstdint>
+#include <future>
 #include <map>
 #include <span>
+#include <system_error>
+#include <utility>
 
 namespace {
 
@@ -33,12 +36,27 @@ public:
         const auto known = images.find(key);
         if (known != images.end())
             return known->second;
-        const DecodedImage decoded = decode();
+        const auto begun = coming.find(key);
+        const DecodedImage decoded = begun == coming.end() ? decode() : begun->second.get();
+        if (begun != coming.end())
+            coming.erase(begun);
         if (decoded.problem != nullptr)
             QM::log(QM::LogLevel::error, "Image %s: %s\n", name.toRawUTF8(), decoded.problem);
         juce::ImageCache::addImageToCache(decoded.image, key);
         images.emplace(key, decoded.image);
         return decoded.image;
+    }
+
+    /// On a thread that may outlive this call, not this object.
+    template <typename Decode>
+    void begin(juce::int64 key, Decode decode) {
+        if (images.contains(key) || coming.contains(key))
+            return;
+        try {
+            coming.emplace(key, std::async(std::launch::async, std::move(decode)));
+        } catch (const std::system_error&) {
+            // No thread to be had: it will be decoded when it is asked for.
+        }
     }
 
 private:
@@ -47,7 +65,8 @@ private:
     ~DecodedImages() override { instance = nullptr; }
 
     static DecodedImages* instance;
-    std::map<juce::int64, juce::Image> images; ///< null images are those that failed
+    std::map<juce::int64, juce::Image> images;               ///< null images are those that failed
+    std::map<juce::int64, std::future<DecodedImage>> coming; ///< waits for its thread when it goes
 };
 
 DecodedImages* DecodedImages::instance = nullptr;
@@ -77,6 +96,13 @@ juce::Image loadResourceImage(const juce::String& name) {
     const juce::File file = resourceFile(name);
     return DecodedImages::get().find(file.hashCode64(), file.getFullPathName(),
                                      [&file] { return decodeFile(file); });
+}
+
+void prefetchResourceImages(std::initializer_list<const char*> names) {
+    for (const char* const name : names) {
+        const juce::File file = resourceFile(name);
+        DecodedImages::get().begin(file.hashCode64(), [file] { return decodeFile(file); });
+    }
 }
 
 juce::Image imageFromMemory(const void* data, std::size_t size) {

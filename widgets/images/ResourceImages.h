@@ -10,9 +10,14 @@
 #include <juce_graphics/juce_graphics.h>
 
 #include <cstddef>
+#include <initializer_list>
 
 /// A file in the resource folder (see ResourceFolder). [message thread]
 [[nodiscard]] juce::Image loadResourceImage(const juce::String& name);
+
+/// Begins to decode these files, each on a thread of its own, for loadResourceImage to take: an
+/// editor that needs several large ones has them in the time of the largest. [message thread]
+void prefetchResourceImages(std::initializer_list<const char*> names);
 
 /// A picture's bytes; the same bytes elsewhere are the same picture. [message thread]
 [[nodiscard]] juce::Image imageFromMemory(const void* data, std::size_t size);

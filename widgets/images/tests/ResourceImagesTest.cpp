@@ -123,6 +123,34 @@ TEST_F(ResourceImages, areTriedAgainAtTheNextOpeningOfAnEditor) {
     EXPECT_TRUE(loadResourceImage("late.png").isValid());
 }
 
+TEST_F(ResourceImages, prefetchedAreTheSameAsThoseThatAreNot) {
+    const juce::Image one = noiseImage(juce::Image::RGB, 120, 100);
+    const juce::Image other = noiseImage(juce::Image::RGB, 90, 110);
+    write("one.png", pngOf(one));
+    write("other.png", pngOf(other));
+    prefetchResourceImages({"one.png", "other.png", "one.png"});
+    const juce::Image first = loadResourceImage("one.png");
+    EXPECT_EQ(pixelsOf(first), pixelsOf(one));
+    EXPECT_EQ(pixelsOf(loadResourceImage("other.png")), pixelsOf(other));
+    // What has been taken is not fetched again.
+    ASSERT_TRUE(fileOf("one.png").deleteFile());
+    prefetchResourceImages({"one.png"});
+    EXPECT_EQ(loadResourceImage("one.png"), first);
+}
+
+TEST_F(ResourceImages, prefetchedAreNullAndLoggedWhenTheyAreAskedForAndCannotBeHad) {
+    const LogCapture log;
+    prefetchResourceImages({"nowhere.png"});
+    EXPECT_TRUE(loadResourceImage("nowhere.png").isNull());
+    EXPECT_TRUE(loadResourceImage("nowhere.png").isNull());
+    EXPECT_EQ(lines(log), 1);
+}
+
+TEST_F(ResourceImages, prefetchedAndNeverAskedForGoWithTheToolkit) {
+    write("knob.png", pngOf(noiseImage(juce::Image::RGB, 400, 300)));
+    prefetchResourceImages({"knob.png"});
+}
+
 TEST_F(ResourceImages, areTheSameForTheSameBytesInMemory) {
     const PictureBytes png = pngOf(noiseImage(juce::Image::RGB, 12, 10));
     const juce::Image first = imageFromMemory(png.data(), png.size());
