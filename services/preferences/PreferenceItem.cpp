@@ -12,6 +12,18 @@ PreferenceItem::PreferenceItem(std::string key, std::string label, PreferenceVal
     , default_(std::move(defaultValue))
     , value_(default_) {}
 
+PreferenceItem::PreferenceItem(std::string key, std::string label, PreferenceValue defaultValue,
+                               std::vector<PreferenceOption> options)
+    : PreferenceItem(std::move(key), std::move(label), std::move(defaultValue)) {
+    options_ = std::move(options);
+}
+
+PreferenceItem::PreferenceItem(std::string key, std::string label, PreferenceValue defaultValue,
+                               PreferenceRange range)
+    : PreferenceItem(std::move(key), std::move(label), std::move(defaultValue)) {
+    range_ = range;
+}
+
 bool PreferenceItem::setValue(PreferenceValue value) {
     if (typeOf(value) != type())
         return false;

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One row of the preferences panel: a key to store it under, a label, a current and a default
-// value. The default value decides the type, for good.
+// value. The default value decides the type, for good. What the panel offers goes with it: options
+// to choose from, or a range. Neither keeps other values out.
 #pragma once
 
+#include "services/preferences/PreferenceOption.h"
+#include "services/preferences/PreferenceRange.h"
 #include "services/preferences/PreferenceValue.h"
+
+#include <optional>
+#include <vector>
 
 namespace QM {
 
@@ -11,6 +17,12 @@ class PreferenceItem {
 public:
     /// Starts at its default. [any thread]
     PreferenceItem(std::string key, std::string label, PreferenceValue defaultValue);
+    /// With what a user chooses from, in this order.
+    PreferenceItem(std::string key, std::string label, PreferenceValue defaultValue,
+                   std::vector<PreferenceOption> options);
+    /// With what a user may set a number to.
+    PreferenceItem(std::string key, std::string label, PreferenceValue defaultValue,
+                   PreferenceRange range);
 
     /// Unique in its group; never shown. [any thread]
     [[nodiscard]] const std::string& key() const { return key_; }
@@ -22,6 +34,12 @@ public:
     [[nodiscard]] const PreferenceValue& value() const { return value_; }
 
     [[nodiscard]] const PreferenceValue& defaultValue() const { return default_; }
+
+    /// Empty where there is nothing to choose from.
+    [[nodiscard]] const std::vector<PreferenceOption>& options() const { return options_; }
+
+    /// None where nobody named one.
+    [[nodiscard]] const std::optional<PreferenceRange>& range() const { return range_; }
 
     /// The value where the item has that type; else false, 0, 0.0, the empty text or a colour with
     /// four zero channels. [message thread]
@@ -53,6 +71,8 @@ private:
     std::string label_;
     PreferenceValue default_;
     PreferenceValue value_;
+    std::vector<PreferenceOption> options_;
+    std::optional<PreferenceRange> range_;
 };
 
 } // namespace QM

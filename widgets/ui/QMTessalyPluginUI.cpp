@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Opening, size and help. The looks are in QMTessalyPluginUIAppearance.cpp.
 #include "widgets/ui/QMTessalyPluginUI.h"
 
 #include "services/preferences/EditorPreferences.h"
@@ -7,6 +8,7 @@
 #include "widgets/ui/UISizeSteps.h"
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -20,6 +22,12 @@ void whenPicked(QMWidget& button, std::function<void(std::int32_t)> act) {
 }
 
 } // namespace
+
+QMTessalyPluginUI::QMTessalyPluginUI(INoxPlugIn& plugIn, IQMPlugInUIHost* uiHost,
+                                     QMWidgetFactory widgetFactory, const Tables& editorTables,
+                                     const AppearanceOffers& offers)
+    : QMWidgetPluginUI(plugIn, uiHost, std::move(widgetFactory), editorTables)
+    , preferences(offers, getProductCode()) {}
 
 void QMTessalyPluginUI::setupAfterCreation() {
     if (!buildWidgets())

@@ -33,19 +33,26 @@ QMWidget* QMWidgetPluginUI::widgetOfID(FourCharCode widgetID) const {
     return found == widgetsByID.end() ? nullptr : found->second;
 }
 
-void QMWidgetPluginUI::setTextColour(juce::Colour colour) {
+void QMWidgetPluginUI::setTextColour(juce::Colour colour, Captions captions) {
     textColour = colour;
     for (const auto& widget : widgets) {
-        if (auto* const coloured = dynamic_cast<IQMTextColour*>(widget.get()))
+        auto* const coloured = dynamic_cast<IQMTextColour*>(widget.get());
+        if (coloured == nullptr)
+            continue;
+        if (captions == Captions::coloured || isReadout(*widget))
             coloured->setTextColour(colour);
+        else
+            coloured->setTextColour({});
     }
+}
+
+bool QMWidgetPluginUI::isReadout(const QMWidget& widget) const {
+    return std::find(readouts.begin(), readouts.end(), &widget) != readouts.end();
 }
 
 std::vector<const QMWidget*> QMWidgetPluginUI::laidOutWidgets() const {
     std::vector<const QMWidget*> laidOut = QMPlugInUI::laidOutWidgets();
-    std::erase_if(laidOut, [this](const QMWidget* widget) {
-        return std::find(readouts.begin(), readouts.end(), widget) != readouts.end();
-    });
+    std::erase_if(laidOut, [this](const QMWidget* widget) { return isReadout(*widget); });
     return laidOut;
 }
 

@@ -49,8 +49,14 @@ public:
         return parameterWidgets;
     }
 
-    /// For readouts made from now on, and for every readout and label there is.
-    void setTextColour(juce::Colour colour);
+    /// What the text of labels and controls is drawn in.
+    enum class Captions {
+        coloured, ///< the text colour
+        legible,  ///< what is legible on the panel
+    };
+
+    /// For readouts made from now on, and for every readout and caption there is.
+    void setTextColour(juce::Colour colour, Captions captions = Captions::coloured);
 
     [[nodiscard]] juce::Colour getTextColour() const { return textColour; }
 
@@ -110,6 +116,7 @@ private:
     void describeSlot(QMWidget& widget, std::uint32_t slot, std::int32_t index,
                       QMWidgetFactory::Items items);
     [[nodiscard]] bool bindDisplays(QMWidget& widget, const QMWidgetDescriptor& descriptor);
+    [[nodiscard]] bool isReadout(const QMWidget& widget) const;
     void place(QMWidget& widget);
     void measure();
     void raiseExtents(const QMWidget& widget);

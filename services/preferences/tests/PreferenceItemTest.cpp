@@ -81,3 +81,34 @@ TEST(PreferenceItem, refusesAFloatThatIsNotFinite) {
     EXPECT_TRUE(item.setValue(Limits::max()));
     EXPECT_EQ(item.floatValue(), Limits::max());
 }
+
+TEST(PreferenceItem, hasNothingToChooseFromAndNoRangeUnlessTold) {
+    const PreferenceItem item("key", "Label", 7);
+    EXPECT_TRUE(item.options().empty());
+    EXPECT_FALSE(item.range().has_value());
+}
+
+TEST(PreferenceItem, keepsItsOptionsInTheOrderTheyWereGivenIn) {
+    const std::vector<QM::PreferenceOption> options = {
+        {"Light Knurled", 1.0F}, {"Medium Knurled", 0.0F}, {"-", -2.0F}};
+    const PreferenceItem item("knob_type", "Knob Type", 6, options);
+    EXPECT_EQ(item.options(), options);
+    EXPECT_EQ(item.type(), PreferenceType::integer);
+    EXPECT_EQ(item.value(), PreferenceValue(6));
+    EXPECT_FALSE(item.range().has_value());
+}
+
+TEST(PreferenceItem, takesAValueThatIsNoOption) {
+    PreferenceItem item("show", "Show", 0,
+                        std::vector<QM::PreferenceOption>{{"Hide", 0.0F}, {"Show", 1.0F}});
+    EXPECT_TRUE(item.setValue(7));
+    EXPECT_EQ(item.integerValue(), 7);
+}
+
+TEST(PreferenceItem, keepsItsRangeAndTakesAValueBeyondIt) {
+    PreferenceItem item("width", "Width", 4.0F, QM::PreferenceRange{0.0F, 12.0F});
+    EXPECT_EQ(item.range(), (QM::PreferenceRange{0.0F, 12.0F}));
+    EXPECT_TRUE(item.options().empty());
+    EXPECT_TRUE(item.setValue(13.0F));
+    EXPECT_EQ(item.floatValue(), 13.0F);
+}

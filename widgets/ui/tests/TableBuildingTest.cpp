@@ -130,7 +130,7 @@ TEST_F(TableBuilding, putsAReadoutDirectlyAboveItsControl) {
     TableEditor& ui = create();
     ui.setReadoutHeight(15);
     ui.setTextColour(juce::Colours::orange);
-    ui.setupAfterCreation();
+    ui.buildWidgets();
     const auto& readout = ui.widget<ProbeReadout>("Afre");
     EXPECT_EQ(ui.control("afre").readout(), &readout);
     EXPECT_EQ(readout.getDesignArea(), Area(20, 45, 80, 15));
