@@ -36,7 +36,7 @@ ViewSize drawView(const ScreenshotOptions& options, const std::filesystem::path&
                           input.sampleRate(), plan);
     EditorView view(renderer.controller());
     view.choose(options.view);
-    // What the settings have set in motion; later on time is the sound's and not the clock's.
+    // What the settings have set in motion.
     module.messages().deliverPending();
     if (options.view.input)
         playToView(view, renderer, std::move(input), plan, options.view.seconds);

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cmath>
+#include <thread>
 
 namespace {
 
@@ -29,6 +31,7 @@ void playToView(EditorView& view, Renderer& renderer, LoopedInput input, const R
     const std::int64_t end =
         seconds ? std::min(framesOf(*seconds, input.sampleRate()), input.frames()) : input.frames();
     ChannelBuffers buffers(plan.channels.value_or(input.channels()), plan.blockSize);
+    const auto begin = std::chrono::steady_clock::now();
     std::int64_t nextRefresh = interval;
     for (std::int64_t position = 0; position < end;) {
         throwIfInterrupted();
@@ -38,8 +41,12 @@ void playToView(EditorView& view, Renderer& renderer, LoopedInput input, const R
         processBlock(renderer, buffers, frames);
         position += frames;
         // A large block holds several: what falls in a display falls by the refresh.
-        for (; nextRefresh <= position; nextRefresh += interval)
+        for (; nextRefresh <= position; nextRefresh += interval) {
+            const std::chrono::duration<double> elapsed(static_cast<double>(nextRefresh) /
+                                                        input.sampleRate());
+            std::this_thread::sleep_until(begin + elapsed);
             view.refreshDisplays();
+        }
     }
     view.refreshDisplays();
 }

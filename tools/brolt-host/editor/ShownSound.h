@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// A view's displays after some sound, whose time passes as quickly as it is computed.
+// A view's displays after some sound. It takes as long as the sound: displays show when things
+// happened, by the clock.
 
 #pragma once
 
