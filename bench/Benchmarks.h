@@ -10,3 +10,4 @@ void registerControlBenchmarks();
 void registerStateBenchmarks();
 void registerLibraryBenchmarks();
 void registerEditorBenchmarks();
+void registerDisplayBenchmarks();

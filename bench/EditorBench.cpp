@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// What the editor costs: opening it in a library that is loaded already, up to its first picture; a
-// tick of its displays while nothing happens; drawing one knob again at 120 percent.
+// What the editors cost in a library that is loaded already: opening one up to its first picture;
+// a tick of the displays while nothing happens; drawing one knob again at 120 percent.
 
 #include "bench/BenchLibrary.h"
 #include "bench/BenchModel.h"
@@ -15,6 +15,7 @@
 #include <benchmark/benchmark.h>
 #include <juce_gui_basics/juce_gui_basics.h>
 
+#include <memory>
 #include <stdexcept>
 #include <vector>
 
@@ -24,13 +25,16 @@ DEF_CLASS_IID(IQMEditorPicture)
 
 namespace {
 
-/// The editor that every product has, at its own size.
+enum class Editor { product, generic };
+
+/// At its own size.
 class OpenEditor {
 public:
-    explicit OpenEditor(LibraryPlugIn& plugIn)
+    OpenEditor(LibraryPlugIn& plugIn, Editor which)
         : view(plugIn.createEditor())
         , picture(view) {
-        if (!picture || picture->showGenericEditor(true) != kResultOk ||
+        if (!picture ||
+            (which == Editor::generic && picture->showGenericEditor(true) != kResultOk) ||
             view->getSize(&size) != kResultOk)
             throw std::runtime_error("the editor has no pictures");
     }
@@ -49,14 +53,34 @@ private:
     ViewRect size;
 };
 
-void benchEditorOpen(benchmark::State& state) {
+void benchEditorOpen(benchmark::State& state, Editor which) {
     const auto module = loadLibrary();
     LibraryPlugIn plugIn(module);
     std::vector<uint8> pixels;
     for (auto unused : state) {
         (void)unused;
-        OpenEditor editor(plugIn);
+        OpenEditor editor(plugIn, which);
         editor.draw(pixels);
+    }
+}
+
+/// The first in the process: pictures and typefaces are read from the bundle.
+void benchEditorFirstOpen(benchmark::State& state) {
+    const auto module = loadLibrary();
+    std::vector<uint8> pixels;
+    for (auto unused : state) {
+        (void)unused;
+        state.PauseTiming();
+        // With the last instance goes what the editors had in common.
+        auto plugIn = std::make_unique<LibraryPlugIn>(module);
+        state.ResumeTiming();
+        {
+            OpenEditor editor(*plugIn, Editor::product);
+            editor.draw(pixels);
+        }
+        state.PauseTiming();
+        plugIn.reset();
+        state.ResumeTiming();
     }
 }
 
@@ -105,7 +129,11 @@ void benchKnobRepaint(benchmark::State& state) {
 } // namespace
 
 void registerEditorBenchmarks() {
-    benchmark::RegisterBenchmark("BM_EditorOpen", benchEditorOpen)->UseRealTime();
+    benchmark::RegisterBenchmark("BM_EditorOpen/product", benchEditorOpen, Editor::product)
+        ->UseRealTime();
+    benchmark::RegisterBenchmark("BM_EditorOpen/generic", benchEditorOpen, Editor::generic)
+        ->UseRealTime();
+    benchmark::RegisterBenchmark("BM_EditorFirstOpen", benchEditorFirstOpen)->UseRealTime();
     benchmark::RegisterBenchmark("BM_EditorIdleTick", benchEditorIdleTick);
     benchmark::RegisterBenchmark("BM_KnobRepaint120", benchKnobRepaint);
 }

@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
     registerStateBenchmarks();
     registerLibraryBenchmarks();
     registerEditorBenchmarks();
+    registerDisplayBenchmarks();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -4,6 +4,9 @@
 # toolkit's. The compiler reads them once for each kind of target. Files include what they use all
 # the same.
 
+# What everything with widgets reads.
+set(widgetsHeaders <juce_gui_basics/juce_gui_basics.h> <functional> <map> <memory> <string> <vector>)
+
 # brolt_precompile(<target> FROM <target> HEADERS <header>...)
 #
 # The target named by FROM compiles the headers, the others take what it made. They must be compiled

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "brolt/library/QMBroltEditors.h"
 
+#include "brolt/editor/QMBroltUI.h"
 #include "widgets/generic/GenericEditorContent.h"
 #include "widgets/ui/QMPlugInGenericUI.h"
 
@@ -11,8 +12,8 @@ constexpr const char* sizeKeyOfGenericEditor = "BROLT_GENERIC_SML";
 
 std::unique_ptr<IQMPlugInUI> makeEditor(INoxPlugIn& plugIn, IQMPlugInUIHost* host,
                                         PlugInUINumber number) {
-    if (number != PlugInUINumber::generic)
-        return nullptr;
+    if (number == PlugInUINumber::product)
+        return std::make_unique<QMBroltUI>(plugIn, host);
     return std::make_unique<QMPlugInGenericUI>(
         plugIn, host,
         [](const GenericEditorDescription& description) {

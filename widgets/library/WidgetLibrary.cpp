@@ -3,9 +3,11 @@
 
 #include "widgets/buttons/ButtonWidgetTypes.h"
 #include "widgets/controls/ControlWidgetTypes.h"
+#include "widgets/history/HistoryWidgetTypes.h"
 #include "widgets/menus/MenuWidgetTypes.h"
 #include "widgets/meters/MeterWidgetTypes.h"
 #include "widgets/statics/StaticWidgetTypes.h"
+#include "widgets/update/UpdateWidgetTypes.h"
 
 void addWidgetLibrary(QMWidgetFactory& factory) {
     addStaticWidgetTypes(factory);
@@ -13,4 +15,6 @@ void addWidgetLibrary(QMWidgetFactory& factory) {
     addButtonWidgetTypes(factory);
     addMenuWidgetTypes(factory);
     addMeterWidgetTypes(factory);
+    addHistoryWidgetTypes(factory);
+    addUpdateWidgetTypes(factory);
 }

@@ -94,10 +94,9 @@ protected:
         instance->set("afre", startFrequency);
         instance->controller().setComponentHandler(&host);
         editor = std::make_unique<AttachedEditor>(*instance);
-        const std::vector<EditorArea> areas = editor->view.areasOf(attackFrequency);
-        ASSERT_EQ(areas.size(), 2U);
-        knob = areas[0];
-        readout = areas[1];
+        const EditorKnob found = editor->view.knobOf(attackFrequency);
+        knob = found.knob;
+        readout = found.readout;
     }
 
     ~KnobTurn() override {

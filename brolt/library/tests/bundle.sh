@@ -73,9 +73,12 @@ case $program in
         ;;
 esac
 
-is 'the bundle holds the library and its description' \
+pictures=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../../resources" && ls)
+typefaces='URWGothic-Book.otf URWGothic-BookOblique.otf URWGothic-Demi.otf'
+is 'the bundle holds the library, its description, pictures and typefaces' \
     "$(cd "$bundle" && find . -type f | LC_ALL=C sort | words)" \
-    "./Contents/Resources/moduleinfo.json ./${library#"$bundle"/}"
+    "$({ printf './Contents/Resources/%s\n' moduleinfo.json $typefaces $pictures
+        echo "./${library#"$bundle"/}"; } | LC_ALL=C sort | words)"
 
 echo "$passed passed, $failed failed, 0 skipped"
 [ "$failed" = 0 ]

@@ -123,6 +123,23 @@ std::vector<EditorArea> EditorView::areasOf(Vst::ParamID id) {
     return areas;
 }
 
+EditorKnob EditorView::knobOf(Vst::ParamID id) {
+    // Design units: a readout of 18 on a knob of 100 with its caption.
+    constexpr int readoutHeight = 18;
+    constexpr int knobHeight = 100;
+    const std::vector<EditorArea> areas = areasOf(id);
+    if (areas.size() != 1)
+        throw std::runtime_error("this is not the product's editor");
+    const EditorArea both = areas.front();
+    const int height = both.bottom - both.top;
+    const int middle = both.top + height * readoutHeight / (readoutHeight + knobHeight);
+    EditorArea readout = both;
+    EditorArea knob = both;
+    readout.bottom = middle;
+    knob.top = middle;
+    return {readout, knob};
+}
+
 EditorPicture EditorView::picture() {
     EditorPicture result{size(), {}};
     result.pixels.resize(bytesPerPixel * static_cast<std::size_t>(result.size.width) *

@@ -48,6 +48,11 @@ struct EditorPicture {
     [[nodiscard]] EditorPicture part(EditorArea area) const;
 };
 
+struct EditorKnob {
+    EditorArea readout;
+    EditorArea knob;
+};
+
 class EditorView {
 public:
     /// Throws std::runtime_error where there is no view.
@@ -67,8 +72,12 @@ public:
     Steinberg::tresult giveSize(EditorSize size, EditorPoint corner = {});
 
     [[nodiscard]] std::optional<Vst::ParamID> parameterAt(EditorPoint point);
-    /// Where a parameter is found, from the top: its control, then its readout where it has one.
+    /// Where a parameter is found, from the top. The generic editor has a control and its readout
+    /// apart; in the product's they touch.
     [[nodiscard]] std::vector<EditorArea> areasOf(Vst::ParamID id);
+
+    /// A knob of the product's editor.
+    [[nodiscard]] EditorKnob knobOf(Vst::ParamID id);
 
     [[nodiscard]] EditorPicture picture();
 
