@@ -3,6 +3,7 @@
 
 #include "brolt/editor/EditorTables.h"
 #include "plugin-model/INoxPlugIn.h"
+#include "services/preferences/EditorPreferences.h"
 #include "widgets/controls/QMParameterControlWidget.h"
 #include "widgets/controls/QMParameterReadoutWidget.h"
 #include "widgets/history/QMPitchHistory.h"
@@ -45,6 +46,24 @@ std::vector<std::int32_t> steps() {
     return all;
 }
 
+constexpr const char* logoForDark = "BroltLogoForDark.png";
+constexpr const char* logoForLight = "BroltLogoForLight.png";
+
+/// The pictures that take longest, as far as this editor will show them.
+void prefetchPictures() {
+    prefetchResourceImages({"qm_knob_70_black_128.webp"});
+    switch (QM::readBackgroundMode(preferencesPrefix)) {
+    case EditorBackground::lightBrushed:
+        prefetchResourceImages({"UIBackground.png", logoForLight});
+        break;
+    case EditorBackground::darkBrushed:
+        prefetchResourceImages({"UIBackgroundDark.png", logoForDark});
+        break;
+    default:
+        break;
+    }
+}
+
 QMWidgetFactory library() {
     QMWidgetFactory factory;
     addWidgetLibrary(factory);
@@ -56,6 +75,7 @@ QMWidgetFactory library() {
 QMBroltUI::QMBroltUI(INoxPlugIn& plugIn, IQMPlugInUIHost* uiHost)
     : QMTessalyPluginUI(plugIn, uiHost, library(), QMBrolt::editorTables(plugIn.outputCount()),
                         AppearanceOffers{.offerRingOptions = true}) {
+    prefetchPictures();
     setProductCode(preferencesPrefix);
     setSizeKey(keyOfSize);
     setMagnificationSteps(steps());
@@ -100,8 +120,7 @@ void QMBroltUI::appearanceChanged() {
     if (logo == nullptr)
         return;
     const bool isDark = getBaseColour().getBrightness() <= brightestDark;
-    const juce::Image image =
-        loadResourceImage(isDark ? "BroltLogoForDark.png" : "BroltLogoForLight.png");
+    const juce::Image image = loadResourceImage(isDark ? logoForDark : logoForLight);
     // Without the file the logo that is part of the library stays.
     if (image.isValid())
         logo->setImage(image);

@@ -13,6 +13,10 @@ namespace {
 constexpr float smallestLabel = 7.0f; ///< pixels; below it digits cannot be told apart
 constexpr float labelOfBreadth = 0.42f;
 constexpr float distanceFromLabel = 1.5f; ///< pixels, of lines
+/// Of the breadth of an upright scale, what labels may fill: layouts let meters overlap the rest.
+constexpr float labelsOfBreadth = 0.7f;
+constexpr float beyond =
+    1.0f; ///< pixels that a label may have more; they are its ends' antialiasing
 
 // Design units.
 constexpr float largestLabel = 11.0f;
@@ -63,6 +67,13 @@ float QMMeterCalibrationWidget::spaceOfLabel(const char* label) const {
                                  : font().getStringWidthFloat(label) + fontHeight() * 0.4f;
 }
 
+bool QMMeterCalibrationWidget::canShow(const char* label) const {
+    if (*label == '\0')
+        return false;
+    return !renderer.isVertical() ||
+           font().getStringWidthFloat(label) <= static_cast<float>(getWidth()) * labelsOfBreadth;
+}
+
 void QMMeterCalibrationWidget::placeMarks() {
     placed.clear();
     if (renderer.getArea().isEmpty())
@@ -72,7 +83,7 @@ void QMMeterCalibrationWidget::placeMarks() {
     bool hasRoomForLabels = true;
     for (const MeterMark& mark : renderer.getScale().marks) {
         const float position = renderer.positionOf(mark.level());
-        const bool hasLabel = *mark.label != '\0';
+        const bool hasLabel = canShow(mark.label);
         if (hasLabel && std::abs(position - lastLabel) < spaceOfLabel(mark.label))
             hasRoomForLabels = false;
         const bool showsLabel = hasLabel && hasRoomForLabels;

@@ -40,6 +40,7 @@ private:
     [[nodiscard]] float fontHeight() const;
     [[nodiscard]] juce::Font font() const;
     [[nodiscard]] float spaceOfLabel(const char* label) const;
+    [[nodiscard]] bool canShow(const char* label) const;
     /// Pixels; shorter where the scale is narrow for a label of this extent.
     [[nodiscard]] int lineLengthBeside(float label) const;
     void placeMarks();
