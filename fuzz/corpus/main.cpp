@@ -129,6 +129,15 @@ std::vector<Bytes> vst3Inputs() {
     return inputs;
 }
 
+std::vector<Bytes> replyInputs() {
+    return {bytesOfText("{\"updateAvailable\":true,\"updateVersion\":\"4.1.0\","
+                        "\"updateURL\":\"https://quolm.example/x?y=1&z=2\",\"isbeta\":false,"
+                        "\"updateReleaseNotesURL\":\"http://quolm.example/notes\"}"),
+            bytesOfText("{\"updateAvailable\":false,\"tipsAndTricksURL\":\"javascript:x\","
+                        "\"currentReleaseNotesURL\":null}"),
+            bytesOfText("https://quolm.example:443/a%20b#c")};
+}
+
 } // namespace
 
 int main(int count, char** words) {
@@ -143,6 +152,7 @@ int main(int count, char** words) {
                           writeInputs(root, "Vst3StateFuzz", vst3Inputs()) &&
                           writeInputs(root, "Vst2ChunkFuzz", vst2ChunkInputs()) &&
                           writeInputs(root, "AaxChunkFuzz", recordInputs()) &&
-                          writeInputs(root, "Vst2BankFuzz", bankInputs());
+                          writeInputs(root, "Vst2BankFuzz", bankInputs()) &&
+                          writeInputs(root, "UpdateReplyFuzz", replyInputs());
     return complete ? 0 : 1;
 }

@@ -117,7 +117,7 @@ const std::vector<Layer>& layerTable() {
         {.name = "whole",
          .paths = {"tests/", "bench/", "fuzz/"},
          .sees = {"signal", "model", "preset manager", "product model", "hosting", "state", "tool",
-                  "widgets", "product editor", "extensions of plug-in interfaces"},
+                  "widgets", "product editor", "update check", "extensions of plug-in interfaces"},
          .platformHeaders = {},
          .toolkit = true,
          .thirdParty = true},
