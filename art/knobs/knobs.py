@@ -134,18 +134,18 @@ def _brushed(tone, finish):
 
 
 def _channel_strip():
-    side = [(0.955, 0.06), (0.915, 0.15), (0.875, 0.23), (0.84, 0.29), (0.805, 0.335), (0.77, 0.36)]
-    collar = shapes.rounded([(0.79, 0.35, 0), (0.775, 0.37, 0.008), (0.735, 0.38, 0.006),
-                             (0.72, 0.37, 0)], steps=5, support=0.002)
-    cap = [(0.722, 0.35, 0), (0.712, 0.40, 0.018)]
-    cap += [(0.68 * (1.0 - t / 12), 0.415 + 0.05 * (1.0 - (1.0 - t / 12) ** 2), 0)
+    side = [(0.955, 0.06), (0.92, 0.20), (0.88, 0.33), (0.855, 0.375), (0.82, 0.405), (0.78, 0.43)]
+    collar = shapes.rounded([(0.79, 0.42, 0), (0.775, 0.44, 0.008), (0.735, 0.45, 0.006),
+                             (0.72, 0.44, 0)], steps=5, support=0.002)
+    cap = [(0.722, 0.42, 0), (0.712, 0.47, 0.018)]
+    cap += [(0.68 * (1.0 - t / 12), 0.485 + 0.05 * (1.0 - (1.0 - t / 12) ** 2), 0)
             for t in range(12)]
-    cap = shapes.rounded(cap + [(0.004, 0.465, 0)], support=0.002)
-    metal = materials.surface("grip", (0.58, 0.585, 0.595), 0.36, metallic=1.0)
+    cap = shapes.rounded(cap + [(0.004, 0.535, 0)], support=0.002)
+    metal = materials.surface("grip", MEDIUM, 0.34, metallic=1.0)
     neutral = materials.surface("cap", (0.050, 0.051, 0.053), 0.42)
     black = materials.surface("flange", materials.BLACK, 0.40)
     return [_flange(black),
-            stage.part("grip", _open(_fluted(side, COARSE_FLUTES, 0.036)), metal),
+            stage.part("grip", _open(_fluted(side, COARSE_FLUTES, 0.05)), metal),
             stage.part("collar", _open(shapes.lathe(collar, SEGMENTS)), metal),
             stage.part("cap", shapes.lathe(cap, SEGMENTS), neutral)]
 
