@@ -6,6 +6,7 @@
 #include "services/preferences/EditorPreferences.h"
 #include "widgets/controls/QMParameterControlWidget.h"
 #include "widgets/controls/QMParameterReadoutWidget.h"
+#include "widgets/drawing/WidgetStyle.h"
 #include "widgets/history/QMPitchHistory.h"
 #include "widgets/images/ResourceImages.h"
 #include "widgets/library/WidgetLibrary.h"
@@ -76,6 +77,8 @@ QMBroltUI::QMBroltUI(INoxPlugIn& plugIn, IQMPlugInUIHost* uiHost)
     : QMTessalyPluginUI(plugIn, uiHost, library(), QMBrolt::editorTables(plugIn.outputCount()),
                         AppearanceOffers{.offerRingOptions = true}) {
     prefetchPictures();
+    // While they are being decoded: the system's typefaces are looked through, which takes a while.
+    (void)WidgetStyle::get();
     setProductCode(preferencesPrefix);
     setSizeKey(keyOfSize);
     setMagnificationSteps(steps());

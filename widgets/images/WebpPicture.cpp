@@ -10,18 +10,6 @@
 static_assert(std::endian::native == std::endian::little);
 static_assert(sizeof(juce::PixelARGB) == 4);
 
-namespace {
-
-void premultiply(const juce::Image::BitmapData& pixels) {
-    for (int y = 0; y < pixels.height; ++y) {
-        auto* const line = reinterpret_cast<juce::PixelARGB*>(pixels.getLinePointer(y));
-        for (int x = 0; x < pixels.width; ++x)
-            line[x].premultiply();
-    }
-}
-
-} // namespace
-
 bool isWebp(std::span<const std::uint8_t> data) {
     return data.size() >= 12 && std::memcmp(data.data(), "RIFF", 4) == 0 &&
            std::memcmp(data.data() + 8, "WEBP", 4) == 0;
@@ -40,9 +28,15 @@ juce::Image readWebp(std::span<const std::uint8_t> data, WebpSize size) {
     const juce::Image::BitmapData pixels(image, juce::Image::BitmapData::writeOnly);
     const auto room =
         static_cast<std::size_t>(pixels.lineStride) * static_cast<std::size_t>(size.height);
-    if (WebPDecodeBGRAInto(data.data(), data.size(), pixels.data, room, pixels.lineStride) ==
-        nullptr)
+    WebPDecoderConfig config;
+    if (WebPInitDecoderConfig(&config) == 0)
         return {};
-    premultiply(pixels);
+    config.output.colorspace = MODE_bgrA; // colours times opacity, as the toolkit has them
+    config.output.is_external_memory = 1;
+    config.output.u.RGBA.rgba = pixels.data;
+    config.output.u.RGBA.stride = pixels.lineStride;
+    config.output.u.RGBA.size = room;
+    if (WebPDecode(data.data(), data.size(), &config) != VP8_STATUS_OK)
+        return {};
     return image;
 }
